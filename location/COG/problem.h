@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "shell/base/item_stream.h"
+#include "shell/base/table.h"
+
+namespace vantore::cog {
+
+constexpr int mostPoints = 500;
+
+struct Point {
+    std::string label;
+    double x = 0;
+    double y = 0;
+    double volume = 0;
+    double rate = 0; ///< transport rate for one unit of volume over one unit of distance
+
+    double weight() const { return volume * rate; }
+};
+
+struct Problem {
+    std::string label;
+    double powerFactor = 0; ///< T; 0.5 makes distances straight lines
+    double mapFactor = 0;   ///< K, from coordinates to miles or kilometres
+    int rowCount = 0;       ///< N
+    Table<Point, 1, mostPoints> points;
+};
+
+/// The text of a new problem's file.
+std::string skeleton();
+
+/// Reads a problem file's items. InputPastEnd for a short file, SubscriptOutOfRange for a count of points
+/// outside 0 to 500.
+Problem read(ItemReader& reader);
+
+/// Writes the items; labels without blanks at their ends, an empty one as one blank.
+void write(const Problem& problem, ItemWriter& writer);
+
+/// A text for the user and the title of its box.
+struct Fault {
+    std::string text, title;
+};
+
+/// The first of T, K and N that doesn't allow a solution.
+std::optional<Fault> scalarFault(const Problem& problem);
+
+/// The first point, in order, with a value out of range: X, Y, volume, rate.
+std::optional<Fault> pointFault(const Problem& problem);
+
+} // namespace vantore::cog

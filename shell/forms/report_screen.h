@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/forms/control.h"
+#include "shell/forms/palette.h"
+
+namespace vantore {
+
+struct ReportLine {
+    std::string text;
+    Font font;
+    int colour = colour::black;
+};
+
+/// The report box: lines, each in a font and colour of its own, that a user can read, mark and copy.
+class ReportScreen : public Control {
+  public:
+    using Control::Control;
+
+    void clear() { lines_.clear(); }
+
+    /// Adds one line at the end.
+    void add(ReportLine line) { lines_.push_back(std::move(line)); }
+
+    const std::vector<ReportLine>& lines() const { return lines_; }
+
+  private:
+    std::vector<ReportLine> lines_;
+};
+
+} // namespace vantore

@@ -1,0 +1,261 @@
+#include "shell/launcher.h"
+
+#include <algorithm>
+#include <array>
+
+#include "shell/base/number_text.h"
+#include "shell/base/runtime_error.h"
+#include "shell/base/text.h"
+#include "shell/base/text_file.h"
+
+namespace vantore {
+
+namespace {
+
+constexpr Rect moduleButtonSize{0, 0, 1572, 492};
+constexpr double narrowestScreen = 800; // pixels
+constexpr double lowestScreen = 600;
+
+struct ModuleButton {
+    const char* name;
+    const char* caption;
+    double left, top;
+    const char* tip;
+};
+
+constexpr std::array<ModuleButton, 16> moduleButtons = {{
+    {"Forecast1", "FORECAST", 1680, 4200, "Time Series Forecasting"},
+    {"Route1", "ROUTE", 1680, 4800, "Shortest Route Through a Network"},
+    {"Routeseq1", "ROUTESEQ", 3360, 4800, "Sequence Stops on a Route"},
+    {"ROUTER1", "ROUTER", 5040, 4800, "Vehicle Routing and Scheduling"},
+    {"INPOL1", "INPOL", 6720, 4800, "Inventory Control"},
+    {"COG1", "COG", 8400, 4800, "Single-Site Location by Center-of-Gravity Method"},
+    {"MULTICOG1", "MULTICOG", 1680, 5400, "Multiple-Site Location by Multiple Center-of-Gravity Method"},
+    {"PMED1", "PMED", 3360, 5400, "P-Median Facility Location"},
+    {"WARELOCA1", "WARELOCA", 5040, 5400, "Location Model for the Lathern Soap Company Case Study"},
+    {"LAYOUT1", "LAYOUT", 6720, 5400, "Warehouse Product Layout"},
+    {"Miles1", "MILES", 8400, 5400, "Distance Calculator"},
+    {"Tranlp1", "TRANLP", 1680, 6000, "Transportation Method Of Linear Programming"},
+    {"Lnprog1", "LNPROG", 3360, 6000, "Simplex Method of Linear Programming"},
+    {"Miprog1", "MIPROG", 5040, 6000, "Integer Programming"},
+    {"Mulreg1", "MULREG", 6720, 6000, "Multiple Regression Analysis"},
+    {"Scsim1", "SCSIM", 8400, 6000, "Supply chain simulator"},
+}};
+
+bool isBadFolder(ErrorNumber number) {
+    switch (number) {
+    case ErrorNumber::BadFileName:
+    case ErrorNumber::DeviceUnavailable:
+    case ErrorNumber::PermissionDenied:
+    case ErrorNumber::DiskNotReady:
+    case ErrorNumber::PathFileAccess:
+    case ErrorNumber::PathNotFound: return true;
+    default: return false;
+    }
+}
+
+/// Leaves no trace in the folder.
+bool canWriteTo(const std::filesystem::path& folder) {
+    const std::filesystem::path probe = folder / ".vantore-probe";
+    try {
+        replaceFile(probe, "");
+    } catch (const RuntimeError&) {
+        return false;
+    }
+    std::error_code ignored;
+    std::filesystem::remove(probe, ignored);
+    return true;
+}
+
+} // namespace
+
+Launcher::Launcher(Suite& suite) : Form("frmVantore", suite.scale()), suite_(suite) {
+    caption = "VANTORE";
+    fillScreen();
+    addTitle();
+    addModuleButtons();
+    addCommands();
+}
+
+void Launcher::fillScreen() {
+    const Extent screen = suite_.platform.display.screen();
+    width = screen.width / scale().x;
+    height = screen.height / scale().y;
+}
+
+void Launcher::addTitle() {
+    const auto title = [this](const char* name, const char* text, Rect place, double size, int colour) {
+        auto& label = add<Label>(name, place);
+        label.caption = text;
+        label.fontSize = size;
+        label.bold = true;
+        label.textColour = colour;
+        return &label;
+    };
+    title("lblTitleShadow", "VANTORE", {1730, 650, 6000, 1100}, 48, 8);
+    title("lblTitle", "VANTORE", {1680, 600, 6000, 1100}, 48, 1);
+    title("lblWindows", "for Windows", {1740, 1800, 3000, 420}, 16, 0);
+    title("lblVersion", "Version 6.0", {1740, 2280, 3000, 330}, 10, 8);
+    add<Picture>("imgTitle", Rect{6000, 600, 3972, 3300}).image = "launcher";
+}
+
+void Launcher::addModuleButtons() {
+    for (const ModuleButton& row : moduleButtons) {
+        auto& button =
+            add<Button>(row.name, Rect{row.left, row.top, moduleButtonSize.width, moduleButtonSize.height});
+        button.caption = row.caption;
+        button.tip = row.tip;
+        const auto& modules = suite_.modules();
+        const auto entry = std::find_if(modules.begin(), modules.end(), [&](const ModuleEntry& module) {
+            return module.caption == row.caption;
+        });
+        button.enabled = entry != modules.end();
+        if (button.enabled) button.onPress = [this, entry] { openModule(*entry); };
+    }
+}
+
+void Launcher::addCommands() {
+    txtDir_ = &add<Label>("txtDir", Rect{1680, 6600, 4452, 372});
+    txtDir_->tip = "Click on Directory button to change";
+    const auto command = [this](const char* name, const char* text, double left, double across,
+                                const char* tip) {
+        auto& button = add<Button>(name, Rect{left, 6600, across, 372});
+        button.caption = text;
+        button.tip = tip;
+        return &button;
+    };
+    command("cmdHelp", "&Help", 6240, 732, "Sources for additional information")->onPress = [this] {
+        showHelp();
+    };
+    command("cmdDir", "&Folder", 7080, 972, "Selects folder for data files")->enabled = false;
+    command("cmdScreen", "&Screen", 8160, 972, "Sets display resolution for graphics")->enabled = false;
+    command("cmdExit", "E&xit", 9240, 732, "Exit Vantore")->onPress = [this] { exit(); };
+}
+
+Button* Launcher::moduleButton(std::string_view moduleCaption) const {
+    for (const ModuleButton& row : moduleButtons)
+        if (equalIgnoringCase(row.caption, moduleCaption)) return dynamic_cast<Button*>(find(row.name));
+    return nullptr;
+}
+
+void Launcher::openModule(const ModuleEntry& entry) {
+    enabled = false;
+    module_ = entry.create(suite_);
+}
+
+void Launcher::unloadClosedModule() {
+    if (!module_ || !module_->closed) return;
+    module_.reset();
+    enabled = true;
+    visible = true;
+}
+
+void Launcher::load() {
+    suite_.installDrive.fill(0);
+    suite_.ioFolder.clear();
+    suite_.screenWidth = suite_.screenHeight = suite_.setupDone = 0;
+    std::error_code ignored;
+    std::filesystem::current_path(pathOf(suite_.installFolder), ignored);
+    const Attempt attempt = readDriverFile();
+    if (attempt == Attempt::NoFolder) {
+        suite_.messageBx(
+            "Drives A through M are not available to accept output.  Make at least one of them accessible.",
+            "VANTORE");
+        return exit();
+    }
+    if (attempt == Attempt::FirstRun)
+        suite_.messageBx(
+            "The default path for data files and solution results has been set to the installed directory "
+            "for VANTORE, or " +
+                suite_.installFolder +
+                ".  To change it, press the Folder button on the next (Initialization) screen.",
+            "VANTORE");
+    markInstallDrive();
+    settleScale();
+}
+
+DriverSettings Launcher::defaultSettings() const {
+    return {.ioFolder = suite_.installFolder + "/"};
+}
+
+Launcher::Attempt Launcher::readDriverFile() {
+    if (!canWriteTo(pathOf(suite_.installFolder))) return Attempt::NoFolder;
+    try {
+        return readSettings(DriverReader(suite_.drvFile()));
+    } catch (const RuntimeError& error) {
+        if (error.number() != ErrorNumber::FileNotFound && error.number() != ErrorNumber::InputPastEnd) {
+            if (isBadFolder(error.number())) return Attempt::NoFolder;
+            suite_.messageBx(error.what(), "Error");
+            return Attempt::Read;
+        }
+        // A missing or short file gives way to the default file. Only the short one is read again.
+        try {
+            writeDriverFile(suite_.drvFile(), defaultSettings());
+            if (error.number() == ErrorNumber::FileNotFound) return Attempt::FirstRun;
+            return readSettings(DriverReader(suite_.drvFile()));
+        } catch (const RuntimeError& failure) {
+            if (isBadFolder(failure.number())) return Attempt::NoFolder;
+            suite_.messageBx(failure.what(), "Error");
+            return Attempt::Read;
+        }
+    }
+}
+
+Launcher::Attempt Launcher::readSettings(DriverReader reader) {
+    // A value that can't be taken is reported, and reading goes on with the next one.
+    const auto trapped = [this](auto& target, auto read) {
+        try {
+            target = read();
+        } catch (const RuntimeError& error) {
+            if (error.number() == ErrorNumber::InputPastEnd) throw;
+            suite_.messageBx(error.what(), "Error");
+        }
+    };
+    trapped(suite_.ioFolder, [&] { return reader.readFolder(); });
+    trapped(suite_.screenWidth, [&] { return reader.readNumber(); });
+    trapped(suite_.screenHeight, [&] { return reader.readNumber(); });
+    trapped(suite_.setupDone, [&] { return reader.readNumber(); });
+    txtDir_->caption = "Input/output folder: " + suite_.ioFolder;
+    return Attempt::Read;
+}
+
+void Launcher::markInstallDrive() {
+    const std::string letter = upperCase(left(suite_.installFolder, 1));
+    if (letter.size() == 1 && letter[0] >= 'A' && letter[0] <= 'M')
+        suite_.installDrive.at(static_cast<std::size_t>(letter[0] - 'A')) = 1;
+}
+
+void Launcher::settleScale() {
+    if (suite_.setupDone == 0 && suite_.screenWidth < narrowestScreen) {
+        suite_.messageBx(
+            "A screen resolution less than 800x600 has been set.  Reset it by clicking the Screen button.",
+            "VANTORE");
+        suite_.screenSetting = "NO SETTING";
+    } else {
+        suite_.screenSetting = defaultText(suite_.screenWidth) + "x" + defaultText(suite_.screenHeight);
+        // A width or height of 0 would leave nothing to see; the design's size is kept then.
+        if (suite_.screenWidth > 0) suite_.scaleX = suite_.screenWidth / narrowestScreen;
+        if (suite_.screenHeight > 0) suite_.scaleY = suite_.screenHeight / lowestScreen;
+    }
+    setScale(suite_.scale());
+    fillScreen();
+}
+
+void Launcher::showHelp() {
+    suite_.messageBx(
+        "The modules are described in the user's manual, Vantore.Doc and Vantore.Pdf, in the folder where "
+        "VANTORE is installed.  A file called README in the same folder, if present, contains late changes "
+        "and other information.  Address technical problems to the maintainers named in README.",
+        "Information");
+}
+
+void Launcher::exit() {
+    try {
+        suite_.platform.clipboard.clear();
+    } catch (const std::exception&) {
+        // The program ends all the same.
+    }
+    closed = true;
+}
+
+} // namespace vantore

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "shell/forms/form.h"
+#include "shell/forms/print_job.h"
+
+namespace vantore {
+
+class DialogForm;
+
+/// The outside world as the suite needs it. The desktop implements it with windows, the script player with
+/// queued answers and a transcript.
+
+/// Thrown by a platform that can't go on, such as a script without an answer; no window catches it.
+class PlatformFailure : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct FileDialog {
+    enum class Kind { Open, Save };
+    Kind kind = Kind::Open;
+    std::string title;
+    std::string folder;
+    std::string filter; ///< "Center of gravity (COG*.dat)|COG*.dat|"
+};
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    /// Shows a message, question or input dialog until one of its buttons has closed it.
+    virtual void showModal(DialogForm& dialog) = 0;
+
+    /// The chosen path, or nothing on Cancel. The file need not exist.
+    virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
+};
+
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// The printable area of a page in hundredths of a millimetre.
+    struct Area {
+        double width = 0;
+        double height = 0;
+    };
+    virtual Area printableArea(Orientation orientation) const = 0;
+
+    /// Prints one document; a RuntimeError says why it can't be printed.
+    virtual void print(const PrintJob& job) = 0;
+};
+
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    virtual void clear() = 0;
+    virtual void setText(const std::string& text) = 0;
+    virtual void setPicture(const CapturedPicture& picture) = 0;
+};
+
+/// A started program.
+class RunningProgram {
+  public:
+    virtual ~RunningProgram() = default;
+    virtual bool running() = 0;
+
+    /// Asks the program to stop as Ctrl+C in a terminal does.
+    virtual void interrupt() = 0;
+};
+
+class Programs {
+  public:
+    virtual ~Programs() = default;
+
+    struct Variable {
+        std::string name, value;
+    };
+
+    /// Starts a program without arguments in `folder`, hidden, with `environment` added to the suite's own;
+    /// nullptr when it can't be started.
+    virtual std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
+                                                  const std::filesystem::path& folder,
+                                                  const std::vector<Variable>& environment) = 0;
+
+    /// Starts the spreadsheet program with an empty document; false when there is none.
+    virtual bool startSpreadsheet() = 0;
+};
+
+/// Width and height in twips.
+struct Extent {
+    double width = 0;
+    double height = 0;
+};
+
+class Display {
+  public:
+    virtual ~Display() = default;
+
+    virtual Extent screen() const = 0;
+
+    /// The room that a text takes in a font, its lines broken at `width`.
+    virtual Extent textExtent(const std::string& text, const Font& font, double width) const = 0;
+
+    /// Width and height of a window's client area in pixels and a picture of part of it.
+    struct PixelRect {
+        int left = 0, top = 0, width = 0, height = 0;
+    };
+    virtual PixelRect clientArea(const Form& form) const = 0;
+    virtual CapturedPicture capture(const Form& form, const PixelRect& area) = 0;
+
+    virtual void setBusyPointer(bool busy) = 0;
+    virtual void beep() = 0;
+
+    /// Lets window events run, waiting a moment for them where there are none.
+    virtual void processEvents() = 0;
+};
+
+struct Platform {
+    Dialogs& dialogs;
+    Printer& printer;
+    Clipboard& clipboard;
+    Programs& programs;
+    Display& display;
+};
+
+} // namespace vantore

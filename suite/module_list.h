@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "shell/suite.h"
+
+namespace vantore {
+
+/// The modules that the suite offers, by their captions on the launcher.
+std::vector<ModuleEntry> moduleList();
+
+} // namespace vantore
