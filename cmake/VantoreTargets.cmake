@@ -15,6 +15,11 @@ if(VANTORE_SANITIZE)
     target_link_options(vantore_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(VANTORE_FUZZ)
+    target_compile_options(vantore_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -g1)
+    target_link_options(vantore_options INTERFACE -fsanitize=address,undefined)
+endif()
+
 # vantore_library(NAME SOURCES a.cpp ... LINKS lib ...)
 function(vantore_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})

@@ -36,6 +36,8 @@ class ScriptPlayer {
     /// Plays to the end. PlatformFailure ("line 12: ...") at the step that stops it.
     void play(std::istream& script);
 
+    const Launcher& launcher() const { return *launcher_; }
+
   private:
     using Command = void (ScriptPlayer::*)(ScriptLine&);
     static const std::map<std::string, Command, std::less<>>& commands();
