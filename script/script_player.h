@@ -86,6 +86,7 @@ class ScriptPlayer {
     SvgWriter svgWriter_;
     std::unique_ptr<Launcher> launcher_;
     bool launched_ = false;
+    Form* owner_ = nullptr; ///< The window of the control that was named last.
 };
 
 } // namespace vantore

@@ -117,6 +117,19 @@ TEST(Paste, RefusesCommasAndQuotesAsTypingDoes) {
     EXPECT_EQ(form.grid.cell(1, 2), "5 pipe");
 }
 
+TEST(Paste, AddsTheRowsThatItNeedsUpToTheLimit) {
+    SmallForm form;
+    form.grid.growsByRows = true;
+    form.grid.rowLimit = 4;
+    form.grid.rowCount = 3;
+    form.grid.onInsertKey = [&] { form.grid.setRows(++form.grid.rowCount + 1); };
+    form.select(form.grid, {3, 3, 1, 1});
+    form.paste(form.grid, "a\nb\nc\n");
+    EXPECT_EQ(form.grid.rowCount, 4);
+    EXPECT_EQ(form.grid.cell(3, 1), "a");
+    EXPECT_EQ(form.grid.cell(4, 1), "b");
+}
+
 TEST(Copy, SeparatesCellsByTabs) {
     SmallForm form;
     form.grid.setCell(1, 1, "a");

@@ -46,6 +46,13 @@ TEST(ScriptPlayer, RefusesWhatAUserCanNotReach) {
               "refused: cmdSave is hidden\nrefused: txtLabel is disabled\n");
 }
 
+TEST(ScriptPlayer, RefusesTheLauncherBehindAModule) {
+    ModuleSession session;
+    session.play("launcher");
+    EXPECT_EQ(session.play("module COG\npress cmdHelp\npress COG1"),
+              "refused: cmdHelp is disabled\nrefused: COG1 is disabled\n");
+}
+
 TEST(ScriptPlayer, TakesTheRestOfTheLineAsTheLastArgument) {
     ModuleSession session;
     session.play("module COG\nfile COG1.dat\npress cmdOpen");
