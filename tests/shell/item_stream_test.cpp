@@ -40,7 +40,7 @@ TEST(ItemReader, TakesALoneQuoteToTheEndOfTheFile) {
 }
 
 TEST(ItemReader, RefusesCountsThatCanNotBe) {
-    for (const char* text : {"-1", "501", "1E+99", "many", "\"\"", ","}) {
+    for (const char* text : {"-1", "501", "1E+99", "1E+999", "many", "3 points", "\"\"", ","}) {
         ItemReader reader(text);
         EXPECT_EQ(errorOf([&] { reader.readCount(500); }), ErrorNumber::SubscriptOutOfRange) << text;
     }
