@@ -277,7 +277,7 @@ void MULREG::printData() {
     for (int i = 1; i <= problem.observationCount; ++i) {
         page.right(5, std::to_string(i));
         for (int column = 1; column <= columnCount; ++column)
-            page.right(5 + 13 * column, format(problem.data(i, column), "##,###,##0.0##"));
+            page.right(5 + 13 * column, format(problem.data(i, column), "###,##0.0####"));
         page.endLine();
     }
     printOn(job, page);
