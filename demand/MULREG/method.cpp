@@ -109,7 +109,7 @@ void Procedure::weigh() {
 
 void Procedure::fit(Step& step) const {
     const double total = moments_.squares(y_);
-    const double residual = r_(y_, y_) * total;
+    const double residual = std::max(r_(y_, y_), 0.0) * total; // below 0 by rounding only
     step.degreesOfFreedom = df_;
     step.entered = std::max(n_ - df_ - 1, 1);
     step.standardError = squareRoot(divide(residual, df_));

@@ -66,8 +66,7 @@ struct Criteria {
 constexpr int mostReturns = 5;
 
 /// The steps from the intercept alone to the last. There is always at least one.
-/// DivisionByZero when no degree of freedom is left or the equation fits without any residual,
-/// InvalidProcedureCall when rounding has made the residual negative.
+/// DivisionByZero when no degree of freedom is left or the equation fits without any residual.
 std::vector<Step> regress(const Moments& moments, int observationCount, int variableCount,
                           const Criteria& criteria);
 

@@ -334,6 +334,9 @@ TEST(Regress, LeavesResidualsOrthogonalToTheVariables) {
 TEST(Regress, HasNoFOfAnExactFit) {
     EXPECT_EQ(errorOf({{-1, 1}, {1, 3}}), ErrorNumber::DivisionByZero);
     EXPECT_EQ(errorOf({{1, 3}, {2, 5}, {3, 7}, {4, 9}}), ErrorNumber::DivisionByZero);
+    // y = 1 + 2 x1 + 4 x2
+    EXPECT_EQ(errorOf({{1, 1, 7}, {2, 5, 25}, {3, 2, 15}, {4, 6, 33}, {5, 3, 23}}),
+              ErrorNumber::DivisionByZero);
 }
 
 TEST(Regress, NeedsADegreeOfFreedom) {

@@ -4,6 +4,8 @@
 
 #include <array>
 #include <fstream>
+#include <initializer_list>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -460,23 +462,50 @@ class WithoutPrinter : public ScriptPlatform {
     void print(const PrintJob& /*job*/) override { throw RuntimeError(ErrorNumber::DeviceUnavailable); }
 };
 
-TEST(MulregPrint, SaysThatTheFormCannotBePrinted) {
+/// The window itself, opened on a file by that user.
+class MulregDirect : public testing::Test {
+  protected:
+    MulregDirect() {
+        folders.writeFile("REG01.dat", fuelFile);
+        suite.ioFolder = textOf(folders.ioFolder()) + "/";
+        user.queueFile("REG01.dat");
+        press("cmdOpen");
+    }
+
+    void press(const char* name) { window.press(*window.find(name)); }
+
+    void answer(std::initializer_list<const char*> answers) {
+        for (const char* each : answers) user.queueAnswer(each);
+    }
+
     ModuleSession folders;
-    folders.writeFile("REG01.dat", fuelFile);
     std::ostringstream transcript;
-    WithoutPrinter user(transcript, 800, 600);
+    WithoutPrinter user{transcript, 800, 600};
     Platform parts = user.parts();
-    Suite suite(parts, moduleList());
-    suite.ioFolder = textOf(folders.ioFolder()) + "/";
-    MULREG window(suite);
-    user.queueFile("REG01.dat");
-    window.press(*window.find("cmdOpen"));
-    for (const char* answer : {"1", "2", "Yes"}) user.queueAnswer(answer);
-    window.press(*window.find("cmdPlotData"));
-    window.press(*window.find("cmdPrintPlot"));
+    Suite suite{parts, moduleList()};
+    MULREG window{suite};
+};
+
+TEST_F(MulregDirect, SaysThatTheFormCannotBePrinted) {
+    answer({"1", "2", "Yes"});
+    press("cmdPlotData");
+    press("cmdPrintPlot");
     EXPECT_TRUE(transcript.str().ends_with("MessageBx \"MULREG\": \"The form can't be printed.\"\n"));
     EXPECT_TRUE(window.find("cmdContinue")->shown());
     EXPECT_EQ(window.backColour, Form::buttonFace);
+}
+
+TEST_F(MulregDirect, TakesATransformationBackAsOneStep) {
+    auto& grid = dynamic_cast<DataGrid&>(*window.find("grdObs"));
+    window.select(grid, {.startRow = 1, .endRow = 1, .startCol = 2, .endCol = 2});
+    answer({"2", "2"});
+    press("cmdTransform");
+    EXPECT_EQ(grid.cell(3, 2), "25");
+    window.undo();
+    EXPECT_EQ(grid.cell(3, 2), "5");
+    EXPECT_EQ(grid.cell(5, 2), "5");
+    window.redo();
+    EXPECT_EQ(grid.cell(4, 2), "16");
 }
 
 } // namespace
