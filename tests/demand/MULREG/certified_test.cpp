@@ -50,7 +50,7 @@ TEST(NorrisCalibration, AgreesWithTheCertifiedValuesToNineDigits) {
     const AnalysisOfVariance variance = varianceOf(step, moments.deviation(2), observations.count);
     ASSERT_EQ(step.terms.size(), 1U);
     EXPECT_EQ(step.degreesOfFreedom, 34);
-    const auto expectNineDigits = [this](const char* name, double value, double expected) {
+    const auto expectNineDigits = [](const char* name, double value, double expected) {
         EXPECT_GE(digits(value, expected), 9) << name;
         RecordProperty(name, std::to_string(digits(value, expected)));
     };

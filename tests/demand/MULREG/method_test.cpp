@@ -156,10 +156,9 @@ TEST(Regress, LeavesWeakVariablesOutOfThree) {
     EXPECT_NEAR(steps[1].incrementalF, 16, close);
 }
 
-// Hald's cement data: Hald, Statistical Theory with Engineering Applications (1952); the answers in Draper
-// and Smith, Applied Regression Analysis, 2nd edition (1981), chapter 6 and appendix B, to the digits printed
-// there. The third of the five columns of independent variables is left out of their order: x1, x2, x3, x4,
-// y.
+// Hald's cement data, x1 to x4 and y: Hald, Statistical Theory with Engineering Applications (1952). The
+// answers are those of Draper and Smith, Applied Regression Analysis, 2nd edition (1981), chapter 6 and
+// appendix B, to the digits printed there.
 const Rows cement = {{7, 26, 6, 60, 78.5},   {1, 29, 15, 52, 74.3}, {11, 56, 8, 20, 104.3},
                      {11, 31, 8, 47, 87.6},  {7, 52, 6, 33, 95.9},  {11, 55, 9, 22, 109.2},
                      {3, 71, 17, 6, 102.7},  {1, 31, 22, 44, 72.5}, {2, 54, 18, 22, 93.1},
