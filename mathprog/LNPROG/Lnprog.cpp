@@ -147,11 +147,11 @@ void Lnprog::computeColumn() {
 // The problem
 
 void Lnprog::readProblem(ItemReader& reader) {
+    sizesHeld_ = true;
     showProblem(read(reader));
 }
 
 void Lnprog::showProblem(const Problem& problem) {
-    sizesHeld_ = true;
     txtTitle->setText(problem.label);
     txtRows->setText(std::to_string(problem.constraints));
     txtCols->setText(std::to_string(problem.variables));
