@@ -4,6 +4,7 @@
 
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
+#include "mathprog/LNPROG/Lnprog.h"
 
 namespace vantore {
 
@@ -20,6 +21,7 @@ std::vector<ModuleEntry> moduleList() {
     return {
         entry<cog::COG>("COG"),
         entry<mulreg::MULREG>("MULREG"),
+        entry<lnprog::Lnprog>("LNPROG"),
     };
 }
 
