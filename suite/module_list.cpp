@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "demand/INPOL/INPOL.h"
 #include "location/COG/COG.h"
 
 namespace vantore {
@@ -17,6 +18,7 @@ ModuleEntry entry(const char* caption) {
 
 std::vector<ModuleEntry> moduleList() {
     return {
+        entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
     };
 }
