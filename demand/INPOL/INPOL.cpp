@@ -114,7 +114,10 @@ void INPOL::addQuestions() {
     txtCycleTime->tip = "0 to have the cycle time of joint orders computed.";
     txtNoPrd->tip = "1 to 50; the grids follow it.";
     txtNoPrd->onChange = [this] { followProductCount(); };
-    txtNoPrd->onLeave = [this] { txtNoPrd->setText(defaultText(productCount())); };
+    txtNoPrd->onLeave = [this] {
+        txtNoPrd->setText(defaultText(productCount()));
+        counting_ = false;
+    };
 }
 
 void INPOL::addGrids() {
@@ -176,10 +179,19 @@ void INPOL::followProductCount() {
         if (!trimmed(countText_).empty()) txtNoPrd->setText(before);
         return;
     }
-    if (!counting_ || !isKeystroke(before, countText_))
-        for (std::size_t k = 0; k < grids_.size(); ++k) rowsBeforeCounting_.at(k) = rowsOf(*grids_.at(k));
+    rememberRows(counting_ && isKeystroke(before, countText_));
     counting_ = true;
     setProductCount(*count);
+}
+
+void INPOL::rememberRows(bool goesOn) {
+    for (std::size_t k = 0; k < grids_.size(); ++k) {
+        Rows rows = rowsOf(*grids_.at(k));
+        Rows& remembered = rowsBeforeCounting_.at(k);
+        if (goesOn && remembered.size() > rows.size())
+            rows.insert(rows.end(), remembered.begin() + productCount(), remembered.end());
+        remembered = std::move(rows);
+    }
 }
 
 void INPOL::setProductCount(int count) {

@@ -33,6 +33,7 @@ class INPOL : public ModuleFrame {
 
     int productCount() const { return grdDemand->rowCount; }
     void followProductCount();
+    void rememberRows(bool goesOn);
     void setProductCount(int count);
     void appendProduct(DataGrid& grid);
 
@@ -70,8 +71,8 @@ class INPOL : public ModuleFrame {
 
     std::array<DataGrid*, 3> grids_{}; // in the order of `productTables`
 
-    /// The grids' rows as they stood when the user began to edit the number of products: a count on its way
-    /// from 12 by 1 to 15 must not cost rows 2 to 12.
+    /// The grids' rows, with those cut off since the user began to edit the number of products: a count on
+    /// its way from 12 by 1 to 15 must not cost rows 2 to 12.
     using Rows = std::vector<std::vector<std::string>>;
     std::array<Rows, 3> rowsBeforeCounting_;
     std::string countText_;
