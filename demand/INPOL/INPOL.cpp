@@ -115,6 +115,7 @@ void INPOL::addQuestions() {
     txtNoPrd->tip = "1 to 50; the grids follow it.";
     txtNoPrd->onChange = [this] { followProductCount(); };
     txtNoPrd->onLeave = [this] {
+        if (!accepts(*txtNoPrd)) return;
         txtNoPrd->setText(defaultText(productCount()));
         counting_ = false;
     };
