@@ -39,7 +39,7 @@ std::string elapsedText(std::chrono::steady_clock::duration elapsed) {
 ModuleFrame::ModuleFrame(Suite& suite, ModuleNames names)
     : Form(names.name, suite.scale()), suite_(suite), names_(std::move(names)) {
     caption = names_.name;
-    rowTitles.module = names_.name;
+    rowTitles.module = exitTitle = names_.name;
     arithmetic = ArithmeticWording::usual(names_.name);
     printQuestion = {
         "Select YES to print.  Alternately, choose NO to copy image to the clipboard. Then, paste the "
@@ -225,7 +225,7 @@ void ModuleFrame::fillBlankCells() {
 
 void ModuleFrame::exitModule() {
     // A Save that is cancelled or fails leaves the window open: nothing that was typed is lost.
-    if (!currentFile_.empty() && suite_.asksYes("Save data?", names_.name) && !saveProblem()) return;
+    if (!currentFile_.empty() && suite_.asksYes("Save data?", exitTitle) && !saveProblem()) return;
     suite_.platform.display.setBusyPointer(false);
     closing_ = true;
     closed = true;

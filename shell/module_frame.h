@@ -166,6 +166,8 @@ class ModuleFrame : public Form {
     };
     PrintQuestion printQuestion;
 
+    std::string exitTitle; ///< of the question "Save data?"; the module's name unless it sets another
+
     Button* cmdOpen = nullptr;
     Button* cmdExit = nullptr;
     Button* cmdContinue = nullptr;

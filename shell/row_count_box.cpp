@@ -2,12 +2,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "shell/base/number_text.h"
+#include "shell/base/runtime_error.h"
 #include "shell/grid_rows.h"
 
 namespace vantore {
+
+namespace {
+
+/// One character typed or taken away.
+bool isKeystroke(const std::string& before, const std::string& after) {
+    return std::max(before.size(), after.size()) - std::min(before.size(), after.size()) == 1;
+}
+
+/// A number beyond the double range counts as the largest.
+double countOf(const std::string& text) {
+    try {
+        return std::nearbyint(val(text));
+    } catch (const RuntimeError&) {
+        return std::numeric_limits<double>::max();
+    }
+}
+
+} // namespace
 
 RowCountBox::RowCountBox(TextBox& box, std::vector<DataGrid*> grids, std::function<void()> onLimit)
     : box_(box), onLimit_(std::move(onLimit)) {
@@ -24,17 +44,23 @@ void RowCountBox::settle() {
 void RowCountBox::show(const std::string& text) {
     showing_ = true;
     box_.setText(text);
+    seen_ = text;
     showing_ = false;
 }
 
 void RowCountBox::follow() {
     const std::string typed = box_.text();
-    if (showing_ || typed.find_first_of("0123456789") == std::string::npos) return;
-    show(std::to_string(first().rowCount)); // stands where the new count can't be taken
-    const double count = std::nearbyint(val(typed));
-    if (count > first().rowLimit) return onLimit_();
-    if (count < 0) return;
-    show(typed);
+    if (showing_) return;
+    if (!isKeystroke(seen_, typed))
+        for (Follower& follower : followers_) follower.cutRows.clear();
+    seen_ = typed;
+    if (typed.find_first_of("0123456789") == std::string::npos) return;
+    const double count = countOf(typed);
+    if (count < 0 || count > first().rowLimit) {
+        show(std::to_string(first().rowCount));
+        if (count > 0) onLimit_();
+        return;
+    }
     for (Follower& follower : followers_) resize(follower, static_cast<int>(count));
 }
 

@@ -40,6 +40,7 @@ class RowCountBox {
     TextBox& box_;
     std::vector<Follower> followers_;
     std::function<void()> onLimit_;
+    std::string seen_; // the text of the last change
     bool showing_ = false;
 };
 

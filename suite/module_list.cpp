@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "demand/MULREG/MULREG.h"
+#include "demand/INPOL/INPOL.h"
 #include "location/COG/COG.h"
 #include "mathprog/LNPROG/Lnprog.h"
 
@@ -19,6 +20,7 @@ ModuleEntry entry(const char* caption) {
 
 std::vector<ModuleEntry> moduleList() {
     return {
+        entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
         entry<mulreg::MULREG>("MULREG"),
         entry<lnprog::Lnprog>("LNPROG"),

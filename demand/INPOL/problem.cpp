@@ -1,0 +1,107 @@
+#include "demand/INPOL/problem.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "shell/base/text.h"
+
+namespace vantore::inpol {
+
+namespace {
+
+struct TimeFrame {
+    double periodsPerYear;
+    const char* unit;
+};
+
+constexpr int calendarDays = 1;
+constexpr int years = 5;
+constexpr std::array<TimeFrame, years> timeFrames = {
+    {{365, "da"}, {250, "da"}, {52, "wk"}, {12, "mo"}, {1, "yr"}}};
+
+/// The time frame that a number stands for, from 1 on; years for any other number.
+const TimeFrame& timeFrameOf(double number) {
+    const double nearest = std::nearbyint(number);
+    const bool known = nearest >= calendarDays && nearest <= years;
+    return timeFrames.at(static_cast<std::size_t>(known ? nearest : years) - 1);
+}
+
+bool isYes(const std::string& answer) {
+    return upperCase(answer) == "Y";
+}
+
+} // namespace
+
+bool Problem::jointlyOrdered() const {
+    return isYes(jointOrderAnswer);
+}
+
+bool Problem::serviceIndexSpecified() const {
+    return isYes(serviceIndexAnswer);
+}
+
+bool Problem::wantsSensitivity() const {
+    return isYes(sensitivityAnswer);
+}
+
+bool Problem::orderQuantitySpecified() const {
+    return isYes(orderQuantityAnswer);
+}
+
+double periodsPerYear(double timeFrame) {
+    return timeFrameOf(timeFrame).periodsPerYear;
+}
+
+std::string timeUnit(double timeFrame) {
+    return timeFrameOf(timeFrame).unit;
+}
+
+std::string skeleton() {
+    Problem problem;
+    problem.label = "Enter label";
+    problem.productCount = 1;
+    problem.timeFrame = calendarDays;
+    problem.jointOrderAnswer = problem.serviceIndexAnswer = "N";
+    problem.sensitivityAnswer = problem.orderQuantityAnswer = "N";
+    ItemWriter writer;
+    write(problem, writer);
+    return writer.text();
+}
+
+Problem read(ItemReader& reader) {
+    Problem problem;
+    problem.label = reader.readString();
+    problem.productCount = reader.readCount(mostProducts);
+    problem.timeFrame = reader.readNumber();
+    problem.jointOrderAnswer = reader.readString();
+    problem.serviceIndexAnswer = reader.readString();
+    problem.sensitivityAnswer = reader.readString();
+    problem.jointCost = reader.readNumber();
+    problem.cycleTime = reader.readNumber();
+    problem.orderQuantityAnswer = reader.readString();
+    for (const ProductTable& table : productTables)
+        for (int i = 1; i <= problem.productCount; ++i) {
+            Product& product = problem.products(i);
+            product.*table.label = reader.readString();
+            for (const auto value : table.values) product.*value = reader.readNumber();
+        }
+    return problem;
+}
+
+void write(const Problem& problem, ItemWriter& writer) {
+    writer.string(problem.label).number(problem.productCount).number(problem.timeFrame);
+    writer.string(problem.jointOrderAnswer).string(problem.serviceIndexAnswer);
+    writer.string(problem.sensitivityAnswer).number(problem.jointCost).number(problem.cycleTime);
+    writer.string(problem.orderQuantityAnswer).endLine();
+    for (const ProductTable& table : productTables)
+        for (int i = 1; i <= problem.productCount; ++i) {
+            const Product& product = problem.products(i);
+            const std::string label = trimmed(product.*table.label);
+            writer.string(label.empty() ? " " : label);
+            for (const auto value : table.values) writer.number(product.*value);
+            writer.endLine();
+        }
+}
+
+} // namespace vantore::inpol
