@@ -1,0 +1,59 @@
+#include "desktop/svg_file.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QPainter>
+#include <QSvgGenerator>
+#include <array>
+#include <memory>
+#include <string_view>
+
+#include "desktop/drawing.h"
+#include "desktop/fonts.h"
+#include "shell/base/text_file.h"
+
+namespace vantore {
+
+namespace {
+
+constexpr int dotsPerInch = 96;
+
+/// Texts can't be measured without an application object. A program that has none gets one that needs no
+/// display.
+void needApplication() {
+    if (QCoreApplication::instance() != nullptr) return;
+    static int count = 3;
+    static std::string name = "vantore-script";
+    static std::string option = "-platform";
+    static std::string platform = "offscreen";
+    static std::array<char*, 4> words = {name.data(), option.data(), platform.data(), nullptr};
+    static const QApplication application(count, words.data());
+    substituteFonts();
+}
+
+} // namespace
+
+QByteArray svgOf(const Form& form, const Control& drawing) {
+    needApplication();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    const QSizeF size = unitsOf(form, drawing);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(dotsPerInch);
+    generator.setSize(size.toSize());
+    generator.setViewBox(QRectF(QPointF(0, 0), size));
+    generator.setTitle(qtText(form.caption));
+    generator.setDescription("Vantore");
+    QPainter painter(&generator);
+    paintDrawing(painter, form, drawing);
+    painter.end();
+    return bytes;
+}
+
+void writeSvgFile(const Form& form, const Control& drawing, const std::filesystem::path& path) {
+    const QByteArray svg = svgOf(form, drawing);
+    replaceFile(path, std::string_view(svg.constData(), static_cast<std::size_t>(svg.size())));
+}
+
+} // namespace vantore
