@@ -64,12 +64,12 @@ QFont ControlView::fittedFont(const QString& text, QSize room, int flags, const 
 std::unique_ptr<ControlView> makeView(ViewContext& context, Control& control, QWidget* parent) {
     using Maker = std::unique_ptr<ControlView> (*)(ViewContext&, Control&, QWidget*);
     constexpr Maker makers[] = {
-        viewIf<Button, ButtonView>,      viewIf<TextBox, TextBoxView>,
-        viewIf<Label, LabelView>,        viewIf<DataGrid, GridControlView>,
-        viewIf<Option, OptionView>,      viewIf<CheckBox, CheckBoxView>,
-        viewIf<Frame, FrameView>,        viewIf<TabControl, TabView>,
+        viewIf<Button, ButtonView>,       viewIf<TextBox, TextBoxView>,
+        viewIf<Label, LabelView>,         viewIf<DataGrid, GridControlView>,
+        viewIf<Option, OptionView>,       viewIf<CheckBox, CheckBoxView>,
+        viewIf<Frame, FrameView>,         viewIf<TabControl, TabView>,
         viewIf<ReportScreen, ReportView>, viewIf<PictureSurface, DrawingView>,
-        viewIf<Chart, DrawingView>,      viewIf<Picture, PictureView>,
+        viewIf<Chart, DrawingView>,       viewIf<Picture, PictureView>,
     };
     for (const Maker make : makers)
         if (auto view = make(context, control, parent)) return view;

@@ -23,11 +23,8 @@ bool DesktopSession::start() {
 void DesktopSession::showOver(Form& form) {
     FormWindow& window = windows_.open(form, *this);
     const QRect screen = window.screen()->availableGeometry();
-    const QSize design = window.designSize();
-    const QSize size = design.width() > screen.width() || design.height() > screen.height()
-                           ? design.scaled(screen.size(), Qt::KeepAspectRatio)
-                           : design;
-    window.setGeometry(QRect(screen.topLeft(), size));
+    window.resize(window.sizeOn(screen));
+    window.move(screen.topLeft());
     window.refresh();
     window.show();
     window.raise();
@@ -65,7 +62,8 @@ void DesktopSession::settle() {
     FormWindow* window = windows_.find(*module);
     if (module->closed) {
         if (window != nullptr) window->hide();
-        QMetaObject::invokeMethod(this, [this] { unloadModule(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { unloadModule(); }, Qt::QueuedConnection);
     } else if (window == nullptr) {
         showOver(*module);
     }

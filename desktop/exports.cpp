@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QWidget>
 #include <optional>
 
 #include "desktop/drawing.h"
@@ -21,12 +22,9 @@ constexpr double copiedPixelsPerUnit = 2;
 
 std::optional<std::string> fileToSave(const AskingPlace& place, const char* title, const char* filter,
                                       const QString& name) {
-    return chooseFile(place.window,
-                      {.kind = FileDialog::Kind::Save,
-                       .title = title,
-                       .folder = place.folder,
-                       .filter = filter},
-                      name);
+    return chooseFile(
+        place.window,
+        {.kind = FileDialog::Kind::Save, .title = title, .folder = place.folder, .filter = filter}, name);
 }
 
 /// A report's fonts are the screen's; on paper the design's own sizes stand.
@@ -40,7 +38,9 @@ PrintedLine onPaper(const ReportLine& line, double scale) {
 
 bool printWithPreview(const AskingPlace& place, const PrintJob& job) {
     PrintWindow print(place.window, job, qtText(place.folder));
-    if (print.exec() != QDialog::Accepted) return false;
+    const bool accepted = print.exec() == QDialog::Accepted;
+    if (place.window != nullptr) place.window->activateWindow();
+    if (!accepted) return false;
     print.print();
     return true;
 }
@@ -65,10 +65,9 @@ void copyDrawing(const Form& form, const Control& drawing) {
 }
 
 void saveDrawingAs(const AskingPlace& place, const Form& form, const Control& drawing) {
-    const auto path =
-        fileToSave(place, "Save picture",
-                   "Drawing (*.svg)|*.svg|Picture (*.png)|*.png|PDF document (*.pdf)|*.pdf|",
-                   qtText(form.name()) + " plot.svg");
+    const auto path = fileToSave(place, "Save picture",
+                                 "Drawing (*.svg)|*.svg|Picture (*.png)|*.png|PDF document (*.pdf)|*.pdf|",
+                                 qtText(form.name()) + " plot.svg");
     if (path) saveDrawing(form, drawing, pathOf(*path));
 }
 
@@ -78,8 +77,8 @@ void printDrawing(const AskingPlace& place, const Form& form, const Control& dra
     if (units.width() > units.height()) job.orientation = Orientation::Landscape;
     const Printer::Area room = printableArea(pageLayout(job.orientation));
     const QSizeF size = units.scaled(QSizeF(room.width, room.height), Qt::KeepAspectRatio);
-    job.operations.emplace_back(PrintedPicture{pictureOf(imageOf(form, drawing, printedPixelsPerUnit)),
-                                               size.width(), size.height()});
+    job.operations.emplace_back(
+        PrintedPicture{pictureOf(imageOf(form, drawing, printedPixelsPerUnit)), size.width(), size.height()});
     printWithPreview(place, job);
 }
 

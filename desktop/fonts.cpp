@@ -11,7 +11,8 @@ namespace vantore {
 namespace {
 
 constexpr double pixelsPerInch = 96;
-constexpr double smallestFont = 4; // points
+constexpr double smallestFont = 4;  // points
+constexpr double leastPoints = .01; // a printer has many dots to the inch
 constexpr double shrinkStep = .96;
 constexpr double noLimit = 1e6;
 
@@ -22,8 +23,7 @@ double dotsPerInch(const QPaintDevice* device) {
 }
 
 bool fits(const QFont& font, const QString& text, QSizeF room, int flags) {
-    const QRectF needed =
-        QFontMetricsF(font).boundingRect(QRectF(0, 0, room.width(), noLimit), flags, text);
+    const QRectF needed = QFontMetricsF(font).boundingRect(QRectF(0, 0, room.width(), noLimit), flags, text);
     return needed.width() <= room.width() + .5 && needed.height() <= room.height() + .5;
 }
 
@@ -48,7 +48,7 @@ QFont qtFont(const Font& font, double zoom, const QPaintDevice* device) {
     QFont result(qtText(font.family));
     if (font.family.starts_with("Courier")) result.setStyleHint(QFont::Monospace);
     const double points = font.size * zoom * pixelsPerInch / dotsPerInch(device);
-    result.setPointSizeF(std::max(points, 1.0));
+    result.setPointSizeF(std::max(points, leastPoints));
     result.setBold(font.bold);
     return result;
 }

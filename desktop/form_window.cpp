@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -16,9 +18,11 @@ namespace vantore {
 
 namespace {
 
+constexpr double margin = 120; // twips, beside a control that reaches beyond its form
 constexpr int noteHeight = 24; // pixels
 constexpr int leaveDelay = 0;  // milliseconds
 constexpr int mouseDelay = 40;
+constexpr int frameDelay = 100;    // milliseconds, until a window manager has made its frame
 constexpr int smallestWidth = 320; // pixels
 constexpr int smallestHeight = 120;
 
@@ -26,13 +30,17 @@ constexpr int smallestHeight = 120;
 
 FormWindow::FormWindow(Form& form, WindowSteps& steps, QWidget* parent)
     : QWidget(parent, Qt::Window), form_(form), steps_(steps),
-      canvas_(std::make_unique<QWidget>(this).release()), note_(std::make_unique<QLabel>(this).release()) {
+      canvas_(std::make_unique<QWidget>(this).release()), note_(std::make_unique<QLabel>(this).release()),
+      edge_(std::make_unique<QFrame>(this).release()) {
     setObjectName(qtText(form.name()));
     canvas_->setAutoFillBackground(true);
     note_->setObjectName("runningNote");
     note_->setAutoFillBackground(true);
     note_->setMargin(3);
     note_->hide();
+    edge_->setFrameStyle(QFrame::Box | QFrame::Plain);
+    edge_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    edge_->hide();
     setMinimumSize(std::min(smallestWidth, designSize().width()),
                    std::min(smallestHeight, designSize().height()));
     makeViews();
@@ -52,17 +60,33 @@ QSize FormWindow::designSize() const {
     double width = form_.width;
     double height = form_.height;
     for (const auto& control : form_.controls()) {
-        width = std::max(width, control->design.right());
-        height = std::max(height, control->design.bottom());
+        if (control->design.right() > form_.width) width = std::max(width, control->design.right() + margin);
+        if (control->design.bottom() > form_.height)
+            height = std::max(height, control->design.bottom() + margin);
     }
     return {static_cast<int>(std::ceil(width * form_.scale().x / twipsPerPixel)),
             static_cast<int>(std::ceil(height * form_.scale().y / twipsPerPixel))};
+}
+
+QSize FormWindow::sizeOn(const QRect& screen) const {
+    const QSize design = designSize();
+    const bool fills = form_.width * form_.scale().x >= screen.width() * twipsPerPixel &&
+                       form_.height * form_.scale().y >= screen.height() * twipsPerPixel;
+    if (fills) return screen.size();
+    const bool fits = design.width() <= screen.width() && design.height() <= screen.height();
+    return fits ? design : design.scaled(screen.size(), Qt::KeepAspectRatio);
 }
 
 QWidget* FormWindow::widgetOf(const Control& control) const {
     for (const auto& view : views_)
         if (&view->control() == &control) return view->widget();
     return nullptr;
+}
+
+void FormWindow::behaveAsDialog() {
+    dialog_ = true;
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    setWindowModality(Qt::ApplicationModal);
 }
 
 // The user's steps
@@ -134,6 +158,7 @@ void FormWindow::layOut() {
                      room.height() / static_cast<double>(design.height()));
     canvas_->setGeometry(0, 0, room.width(), room.height());
     note_->setGeometry(0, room.height(), room.width(), strip);
+    edge_->setGeometry(rect());
 }
 
 void FormWindow::syncViews() {
@@ -159,7 +184,7 @@ void FormWindow::takeFocus() {
     Control* wanted = form_.focus;
     form_.focus = nullptr;
     if (wanted == nullptr || !Form::accepts(*wanted)) return;
-    if (QWidget* widget = widgetOf(*wanted)) widget->setFocus(Qt::OtherFocusReason);
+    if (QWidget* widget = widgetOf(*wanted)) widget->setFocus(Qt::TabFocusReason);
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
@@ -170,6 +195,19 @@ void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
 void FormWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (focusWidget() == nullptr || focusWidget() == this) focusNextChild();
+    QTimer::singleShot(frameDelay, this, [this] { settleFrame(); });
+}
+
+/// A window that no window manager has framed draws an edge of its own, else it can't be told from the
+/// window behind it. A frame takes room; what would then lie off the screen is drawn smaller.
+void FormWindow::settleFrame() {
+    const bool framed = windowHandle() != nullptr && !windowHandle()->frameMargins().isNull();
+    edge_->setVisible(!framed);
+    edge_->raise();
+    const QRect room = screen()->availableGeometry();
+    const QSize excess(frameGeometry().right() - room.right(), frameGeometry().bottom() - room.bottom());
+    if (framed && !dialog_ && !isMaximized() && (excess.width() > 0 || excess.height() > 0))
+        resize(width() - std::max(0, excess.width()), height() - std::max(0, excess.height()));
 }
 
 } // namespace vantore

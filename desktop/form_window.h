@@ -8,6 +8,7 @@
 #include "desktop/control_view.h"
 #include "desktop/window_steps.h"
 
+class QFrame;
 class QLabel;
 
 namespace vantore {
@@ -33,6 +34,10 @@ class FormWindow : public QWidget, public ViewContext {
     /// Size in pixels at zoom 1.
     QSize designSize() const;
 
+    /// Size of the window on a screen: the design's, or where the screen is smaller as much of it as keeps
+    /// the proportions. A form as large as the screen fills it.
+    QSize sizeOn(const QRect& screen) const;
+
     /// Width and height of what the form's controls are drawn in.
     QWidget& canvas() const { return *canvas_; }
 
@@ -44,8 +49,9 @@ class FormWindow : public QWidget, public ViewContext {
     /// Called by `refresh` once the form has closed.
     std::function<void()> onClosed;
 
-    /// A dialog is closed by Escape, and Enter in its text box presses its first button.
-    void behaveAsDialog() { dialog_ = true; }
+    /// A dialog keeps the other windows waiting. It is closed by Escape, and Enter in its text box presses
+    /// its first button.
+    void behaveAsDialog();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -59,6 +65,7 @@ class FormWindow : public QWidget, public ViewContext {
     void syncViews();
     void syncColours();
     void syncNote();
+    void settleFrame();
     void takeFocus();
     void leaveLeftBox();
     void leaveSoon();
@@ -68,6 +75,7 @@ class FormWindow : public QWidget, public ViewContext {
     WindowSteps& steps_;
     QWidget* canvas_;
     QLabel* note_;
+    QFrame* edge_;
     std::vector<std::unique_ptr<ControlView>> views_;
     double zoom_ = 1;
     int backColour_ = Form::buttonFace;

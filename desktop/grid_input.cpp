@@ -13,7 +13,8 @@ namespace vantore {
 
 void GridView::highlight(CellPlace from, CellPlace to) {
     act([&] {
-        context_.form().select(grid_, {.startRow = from.row, .endRow = to.row, .startCol = from.col, .endCol = to.col});
+        context_.form().select(
+            grid_, {.startRow = from.row, .endRow = to.row, .startCol = from.col, .endCol = to.col});
     });
 }
 
@@ -178,8 +179,7 @@ void GridView::clearBlock() {
     if (block.startRow == block.endRow && block.startCol == block.endCol)
         return act([this] { context_.form().key(grid_, keys::escape); });
     // Pasting empty cells clears them all as one step of undo.
-    const std::string row =
-        std::string(static_cast<std::size_t>(block.endCol - block.startCol), '\t') + "\n";
+    const std::string row = std::string(static_cast<std::size_t>(block.endCol - block.startCol), '\t') + "\n";
     std::string empty;
     for (int i = block.startRow; i <= block.endRow; ++i) empty += row;
     act([&] {

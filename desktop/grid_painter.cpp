@@ -56,7 +56,8 @@ class GridPaint {
     void findVisible() {
         const QPoint first(geometry_.fixedWidth() + look_.scroll.x(),
                            geometry_.fixedHeight() + look_.scroll.y());
-        const QPoint last(look_.scroll.x() + look_.view.width() - 1, look_.scroll.y() + look_.view.height() - 1);
+        const QPoint last(look_.scroll.x() + look_.view.width() - 1,
+                          look_.scroll.y() + look_.view.height() - 1);
         firstRow_ = std::max(1, geometry_.rowAt(first.y()));
         lastRow_ = geometry_.rowAt(last.y());
         firstCol_ = std::max(1, geometry_.colAt(first.x()));
@@ -143,7 +144,7 @@ class GridPaint {
         if (text.isEmpty()) return;
         const QRect room = cell.adjusted(1, 0, -2, -1);
         painter_.setPen(look_.enabled ? QColor(Qt::black) : disabledTextColour);
-        painter_.setFont(fitted(row > 0 ? cellFont_ : look_.font, text, room.size(), 0));
+        painter_.setFont(fitted(cellFont_, text, room.size(), 0));
         painter_.drawText(room, Qt::AlignCenter, text);
     }
 

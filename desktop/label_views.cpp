@@ -59,7 +59,8 @@ FrameView::FrameView(ViewContext& context, Frame& frame, QWidget* parent)
 
 void FrameView::syncContent(const Layout& layout) {
     const QString text = qtText(control().caption);
-    const QFont font = fittedFont(text, box_.size() - QSize(frameTitleInset, 0), Qt::TextShowMnemonic, layout);
+    const QFont font =
+        fittedFont(text, box_.size() - QSize(frameTitleInset, 0), Qt::TextShowMnemonic, layout);
     if (box_.title() != text) box_.setTitle(text);
     if (box_.font() != font) box_.setFont(font);
 }

@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr double dialogFontSize = 9; // points; of the file and print dialogs
+
 /// The same look on every desktop: the forms' colours are made for a light one.
 void setLook() {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
@@ -19,6 +21,7 @@ void setLook() {
     QApplication::setWindowIcon(QIcon(vantore::pictureFile("icon")));
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
     vantore::substituteFonts();
+    QApplication::setFont(vantore::qtFont({.size = dialogFontSize}));
 }
 
 std::string installFolder() {

@@ -33,9 +33,9 @@ class Image : public QWidget {
         QPainter painter(&drawn_);
         const QSizeF room = size();
         const QSizeF shape = QSizeF(renderer.defaultSize()).scaled(room, Qt::KeepAspectRatio);
-        renderer.render(&painter, QRectF(QPointF((room.width() - shape.width()) / 2,
-                                                 (room.height() - shape.height()) / 2),
-                                         shape));
+        renderer.render(
+            &painter,
+            QRectF(QPointF((room.width() - shape.width()) / 2, (room.height() - shape.height()) / 2), shape));
     }
 
     const Picture& picture_;

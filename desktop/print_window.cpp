@@ -142,8 +142,8 @@ void PrintWindow::browse() {
 
 bool PrintWindow::mayReplace(const QString& file) {
     if (!QFileInfo::exists(file)) return true;
-    return QMessageBox::question(this, windowTitle(), file + " already exists.\nDo you want to replace it?") ==
-           QMessageBox::Yes;
+    return QMessageBox::question(this, windowTitle(),
+                                 file + " already exists.\nDo you want to replace it?") == QMessageBox::Yes;
 }
 
 void PrintWindow::accept() {

@@ -68,8 +68,8 @@ bool startSpreadsheetProgram() {
         const char* name;
         QStringList arguments;
     };
-    for (const Candidate& candidate : {Candidate{"libreoffice", {"--calc"}}, Candidate{"localc", {}},
-                                       Candidate{"soffice", {"--calc"}}}) {
+    for (const Candidate& candidate :
+         {Candidate{"libreoffice", {"--calc"}}, Candidate{"localc", {}}, Candidate{"soffice", {"--calc"}}}) {
         const QString path = QStandardPaths::findExecutable(candidate.name);
         if (!path.isEmpty() && QProcess::startDetached(path, candidate.arguments)) return true;
     }

@@ -85,7 +85,8 @@ class TabStrip : public QWidget {
         places_.clear();
         int left = 0;
         for (int i = 0; i < count(); ++i) {
-            const int right = fits ? left + widths.at(static_cast<std::size_t>(i)) : width() * (i + 1) / count();
+            const int right =
+                fits ? left + widths.at(static_cast<std::size_t>(i)) : width() * (i + 1) / count();
             places_.push_back(QRect(left, 0, right - left, height_));
             left = right;
         }
