@@ -104,8 +104,12 @@ Form& ScriptPlayer::front() {
 
 Control& ScriptPlayer::control(ScriptLine& line) {
     const std::string name = line.word("control");
-    Control* found = front().find(name);
-    if (found == nullptr && launched_) found = launcher_->find(name);
+    owner_ = &front();
+    Control* found = owner_->find(name);
+    if (found == nullptr && launched_) {
+        owner_ = launcher_.get();
+        found = owner_->find(name);
+    }
     if (found == nullptr) throw PlatformFailure("unknown control " + name);
     return *found;
 }
@@ -133,7 +137,7 @@ T& ScriptPlayer::onlyOne(const char* kind) {
 }
 
 bool ScriptPlayer::refuses(const Control& control) {
-    if (Form::accepts(control)) return false;
+    if (Form::accepts(control) && owner_->enabled) return false;
     out_ << "refused: " << control.name << (control.shown() ? " is disabled" : " is hidden") << '\n';
     return true;
 }
@@ -153,6 +157,7 @@ void ScriptPlayer::openModule(ScriptLine& line) {
     if (launcher_->module() != nullptr) throw PlatformFailure("a module is open already");
     Button* button = launcher_->moduleButton(name);
     if (button == nullptr) throw PlatformFailure("unknown module " + name);
+    owner_ = launcher_.get();
     if (!refuses(*button)) launcher_->press(*button);
 }
 
@@ -189,34 +194,34 @@ void ScriptPlayer::press(ScriptLine& line) {
                          dynamic_cast<Option*>(&pressed) != nullptr ||
                          dynamic_cast<CheckBox*>(&pressed) != nullptr;
     if (!presses) throw PlatformFailure(pressed.name + " can't be pressed");
-    if (!refuses(pressed)) front().press(pressed);
+    if (!refuses(pressed)) owner_->press(pressed);
 }
 
 void ScriptPlayer::type(ScriptLine& line) {
     auto& box = controlOf<TextBox>(line, "text box");
-    if (!refuses(box)) front().type(box, line.rest().text);
+    if (!refuses(box)) owner_->type(box, line.rest().text);
 }
 
 void ScriptPlayer::typeKeys(ScriptLine& line) {
     auto& box = controlOf<TextBox>(line, "text box");
     if (refuses(box)) return;
     for (const std::string& character : characters(line.rest().text))
-        front().type(box, box.text() + character);
+        owner_->type(box, box.text() + character);
 }
 
 void ScriptPlayer::leave(ScriptLine& line) {
     auto& box = controlOf<TextBox>(line, "text box");
     line.end();
-    front().leave(box);
+    owner_->leave(box);
 }
 
 void ScriptPlayer::typeCell(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     const int row = line.number("row");
     const int col = line.number("column");
-    front().select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
-    front().key(grid, keys::escape);
-    for (const char32_t point : codePoints(line.rest().text)) front().key(grid, static_cast<int>(point));
+    owner_->select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    owner_->key(grid, keys::escape);
+    for (const char32_t point : codePoints(line.rest().text)) owner_->key(grid, static_cast<int>(point));
 }
 
 void ScriptPlayer::makeCurrent(ScriptLine& line) {
@@ -224,7 +229,7 @@ void ScriptPlayer::makeCurrent(ScriptLine& line) {
     const int row = line.number("row");
     const int col = line.number("column");
     line.end();
-    front().select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    owner_->select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
 }
 
 void ScriptPlayer::selectBlock(ScriptLine& line) {
@@ -235,7 +240,7 @@ void ScriptPlayer::selectBlock(ScriptLine& line) {
     block.endRow = line.number("row");
     block.endCol = line.number("column");
     line.end();
-    front().select(grid, block);
+    owner_->select(grid, block);
 }
 
 void ScriptPlayer::clickCell(ScriptLine& line) {
@@ -243,20 +248,20 @@ void ScriptPlayer::clickCell(ScriptLine& line) {
     const int row = line.number("row");
     const int col = line.number("column");
     line.end();
-    if (!refuses(grid)) front().click(grid, row, col);
+    if (!refuses(grid)) owner_->click(grid, row, col);
 }
 
 void ScriptPlayer::pressKey(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     const int code = line.number("character code");
     line.end();
-    front().key(grid, code);
+    owner_->key(grid, code);
 }
 
 void ScriptPlayer::pressInsert(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     line.end();
-    front().insertKey(grid);
+    owner_->insertKey(grid);
 }
 
 void ScriptPlayer::selectPage(ScriptLine& line) {

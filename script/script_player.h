@@ -36,6 +36,8 @@ class ScriptPlayer {
     /// Plays to the end. PlatformFailure ("line 12: ...") at the step that stops it.
     void play(std::istream& script);
 
+    const Launcher& launcher() const { return *launcher_; }
+
   private:
     using Command = void (ScriptPlayer::*)(ScriptLine&);
     static const std::map<std::string, Command, std::less<>>& commands();
@@ -84,6 +86,7 @@ class ScriptPlayer {
     SvgWriter svgWriter_;
     std::unique_ptr<Launcher> launcher_;
     bool launched_ = false;
+    Form* owner_ = nullptr; ///< The window of the control that was named last.
 };
 
 } // namespace vantore

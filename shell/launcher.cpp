@@ -92,11 +92,11 @@ void Launcher::addTitle() {
         label.textColour = colour;
         return &label;
     };
-    title("lblTitleShadow", "VANTORE", {1730, 650, 6000, 1100}, 48, 8);
-    title("lblTitle", "VANTORE", {1680, 600, 6000, 1100}, 48, 1);
-    title("lblWindows", "for Windows", {1740, 1800, 3000, 420}, 16, 0);
-    title("lblVersion", "Version 6.0", {1740, 2280, 3000, 330}, 10, 8);
-    add<Picture>("imgTitle", Rect{6000, 600, 3972, 3300}).image = "launcher";
+    title("lblTitleShadow", "VANTORE", {1730, 650, 5300, 1480}, 48, 8);
+    title("lblTitle", "VANTORE", {1680, 600, 5300, 1480}, 48, 1);
+    title("lblWindows", "for Windows", {1740, 2160, 3000, 520}, 16, 0);
+    title("lblVersion", "Version 6.0", {1740, 2720, 3000, 330}, 10, 8);
+    add<Picture>("imgTitle", Rect{7080, 500, 2892, 3400}).image = "launcher";
 }
 
 void Launcher::addModuleButtons() {

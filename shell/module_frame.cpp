@@ -81,6 +81,7 @@ Label& ModuleFrame::addLabel(const std::string& name, const std::string& text, R
 DataGrid& ModuleFrame::addMainGrid(const std::string& name, Rect place, int rowLimit) {
     auto& grid = add<DataGrid>(name, place);
     grid.rowLimit = rowLimit;
+    grid.growsByRows = true;
     grid.onKey = [this, &grid](int code) { gridKeyPress(suite_, grid, code); };
     grid.onInsertKey = [this, &grid] { insertKeyRow(suite_, grid, rowTitles); };
     seenIn(grid, {View::Data});

@@ -137,10 +137,11 @@ void COG::prepareSurface(View view, double height) {
 
 bool COG::solvable(const Problem& problem) {
     auto fault = scalarFault(problem);
-    if (!fault && problem.powerFactor != .5)
-        message(joined("The value for T is typically 0.5.  Is your value of ", problem.powerFactor) +
-                    " correct?",
-                "Value of power factor");
+    if (!fault && problem.powerFactor != .5) {
+        const std::string asked =
+            joined("The value for T is typically 0.5.  Is your value of ", problem.powerFactor);
+        message(asked + " correct?", "Value of power factor");
+    }
     if (!fault) fault = pointFault(problem);
     if (!fault) return true;
     message(fault->text, fault->title);

@@ -51,9 +51,13 @@ double ItemReader::readNumber() {
 
 int ItemReader::readCount(int most) {
     const std::string item = readString();
-    const double value = std::nearbyint(val(item));
-    const bool number = item.find_first_of("0123456789") != std::string::npos;
-    if (!number || value < 0 || value > most) throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+    double value = -1;
+    try {
+        value = std::nearbyint(numberFrom(item));
+    } catch (const RuntimeError&) {
+        // What is no number is no count either.
+    }
+    if (!(value >= 0 && value <= most)) throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     return static_cast<int>(value);
 }
 

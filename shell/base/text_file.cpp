@@ -70,7 +70,7 @@ fs::path besideName(const fs::path& path) {
 
 fs::path pathOf(std::string_view utf8) {
     if (utf8.find('\0') != std::string_view::npos) throw RuntimeError(ErrorNumber::BadFileName);
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+    return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 std::string textOf(const fs::path& path) {

@@ -64,6 +64,8 @@ class DataGrid : public Control {
     int rowCount = 0;
     /// Most rows that a user may add.
     int rowLimit = 0;
+    /// Typing needs a row that the user has added; pasting adds the rows that it needs.
+    bool growsByRows = false;
 
     std::function<void(int code)> onKey; ///< A character typed into the current cell.
     std::function<void()> onInsertKey;

@@ -103,21 +103,17 @@ void Form::insertKey(DataGrid& grid) {
 }
 
 void Form::paste(DataGrid& grid, std::string_view tabbedText) {
+    // A grid without rows says so once, not for every character.
+    if (grid.growsByRows && grid.rowCount <= 0) return key(grid, escapeKey);
     const CellBlock origin = grid.selection();
     std::vector<Edit> edits;
     int row = origin.startRow;
     for (const auto& cells : tabbedCells(tabbedText)) {
+        if (row >= grid.rows() && grid.growsByRows && grid.rowCount < grid.rowLimit) insertKey(grid);
         int col = origin.startCol;
         for (const std::string& cell : cells) {
             if (row < 1 || col < 1 || row >= grid.rows() || col >= grid.cols()) break;
-            grid.setCurrent(row, col);
-            Edit edit{.grid = &grid, .row = row, .col = col, .before = grid.text(), .after = {}};
-            run(grid, [&] {
-                if (!grid.onKey) return;
-                grid.onKey(escapeKey);
-                for (const char32_t point : codePoints(cell)) grid.onKey(static_cast<int>(point));
-            });
-            edit.after = grid.cell(row, col);
+            Edit edit = typeOver(grid, row, col, cell);
             if (edit.after != edit.before) edits.push_back(std::move(edit));
             ++col;
         }
@@ -126,6 +122,19 @@ void Form::paste(DataGrid& grid, std::string_view tabbedText) {
     history_.recordStep(std::move(edits));
     if (origin.startRow < grid.rows() && origin.startCol < grid.cols())
         grid.setCurrent(origin.startRow, origin.startCol);
+}
+
+/// Types a text in place of what a cell holds, key by key, so that the cell's own rules decide.
+Edit Form::typeOver(DataGrid& grid, int row, int col, std::string_view text) {
+    grid.setCurrent(row, col);
+    Edit edit{.grid = &grid, .row = row, .col = col, .before = grid.text(), .after = {}};
+    run(grid, [&] {
+        if (!grid.onKey) return;
+        grid.onKey(escapeKey);
+        for (const char32_t point : codePoints(text)) grid.onKey(static_cast<int>(point));
+    });
+    edit.after = grid.cell(row, col);
+    return edit;
 }
 
 std::string Form::copied(const DataGrid& grid) {

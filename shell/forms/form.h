@@ -87,6 +87,8 @@ class Form {
     virtual void run(const Control& control, const std::function<void()>& handler);
 
   private:
+    Edit typeOver(DataGrid& grid, int row, int col, std::string_view text);
+
     std::string name_;
     Scale scale_;
     std::vector<std::unique_ptr<Control>> controls_;

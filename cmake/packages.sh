@@ -1,0 +1,36 @@
+# Debian packages that Vantore is built, run and tested with. Sourced by ./run and ./test.
+
+build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-charts-dev fonts-liberation
+    coinor-libcbc-dev"
+test_packages="python3 libgtest-dev libbenchmark-dev liblemon-dev coinor-libclp-dev clang libclang-rt-dev
+    xvfb xauth xdotool x11-utils imagemagick poppler-utils"
+
+# Installs those of the named packages that are missing, and says so.
+install_missing() {
+    missing=""
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "ok installed" || missing="$missing $package"
+    done
+    [ -z "$missing" ] && return 0
+    echo "== Installing Debian packages:$missing"
+    as_root=""
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages must be installed first, as root:$missing" >&2
+            return 1
+        fi
+        as_root="sudo"
+    fi
+    $as_root apt-get update -qq
+    # shellcheck disable=SC2086 # a list of words
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
+}
+
+# Configures and builds a preset; further arguments go to the build.
+build_preset() {
+    preset=$1
+    shift
+    cmake --preset "$preset" >"build-$preset.log" 2>&1 || { cat "build-$preset.log"; return 1; }
+    rm -f "build-$preset.log"
+    cmake --build --preset "$preset" "$@"
+}

@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <utility>
+
+#include "suite/module_list.h"
+#include "tests/support/form_faults.h"
+#include "tests/support/module_session.h"
+
+namespace vantore::tests {
+namespace {
+
+struct Screen {
+    int width, height;
+};
+
+constexpr std::array<Screen, 3> screens = {{{800, 600}, {1024, 768}, {1920, 1080}}};
+
+/// What holds for every module of the suite, at every screen size.
+class EveryModule : public testing::TestWithParam<std::string> {};
+
+std::string together(const std::vector<std::string>& faults) {
+    std::string text;
+    for (const std::string& fault : faults) text += fault + "\n";
+    return text;
+}
+
+TEST_P(EveryModule, HasAWindowWithoutFaultsBeforeAFileIsOpen) {
+    for (const Screen screen : screens) {
+        ModuleSession session(screen.width, screen.height);
+        session.play("module " + GetParam());
+        EXPECT_EQ(together(formFaults(session.module())), "") << screen.width << "x" << screen.height;
+    }
+}
+
+TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
+    for (const Screen screen : screens) {
+        ModuleSession session(screen.width, screen.height);
+        session.play("module " + GetParam());
+        const Control* open = session.module().find("cmdOpen");
+        ASSERT_NE(open, nullptr);
+        session.play("file NEW.dat\npress cmdOpen");
+        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(together(formFaults(session.module())), "") << screen.width << "x" << screen.height;
+    }
+}
+
+TEST_P(EveryModule, AsksNothingWhenItIsLeftBeforeAFileIsOpen) {
+    ModuleSession session;
+    EXPECT_EQ(session.play("module " + GetParam() + "\nclose"), "");
+    EXPECT_EQ(session.launcher().module(), nullptr);
+    EXPECT_TRUE(session.launcher().enabled);
+}
+
+TEST_P(EveryModule, SurvivesAFileThatHoldsAnythingAtAll) {
+    for (const std::string& content :
+         damagedForms("\"Label\",1,2,3\r\n2\r\n\"A\",1,2,3,4\r\n\"B\",1,2,3,4\r\n")) {
+        ModuleSession session;
+        session.writeFile("BAD.dat", content);
+        session.play("module " + GetParam() + "\nfile BAD.dat\npress cmdOpen\ntitle");
+        EXPECT_EQ(session.readFile("BAD.dat"), content);
+    }
+}
+
+std::vector<std::string> captions() {
+    std::vector<std::string> result;
+    for (const ModuleEntry& entry : moduleList()) result.push_back(entry.caption);
+    return result;
+}
+
+INSTANTIATE_TEST_SUITE_P(Suite, EveryModule, testing::ValuesIn(captions()),
+                         [](const auto& info) { return info.param; });
+
+TEST(LauncherWindow, HasNoFaultsAtAnyScreenSize) {
+    for (const Screen screen : screens) {
+        ModuleSession session(screen.width, screen.height);
+        EXPECT_EQ(together(formFaults(session.launcher())), "") << screen.width << "x" << screen.height;
+    }
+}
+
+} // namespace
+} // namespace vantore::tests
