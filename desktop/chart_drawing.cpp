@@ -27,6 +27,7 @@ constexpr double tickSize = 8;
 constexpr double pointSize = 7; // pixels
 constexpr double lineWidth = 1.8;
 constexpr double barShare = .7; // of the distance between two bars
+constexpr int chartMargin = 8;  // pixels
 constexpr int mostTicks = 10;
 
 QFont chartFont(double points, double scale, bool bold = false) {
@@ -132,6 +133,7 @@ void paintChart(QPainter& painter, const ChartData& data, QSizeF size, double sc
     scene.addItem(owned.release()); // the scene's own
     chart.setBackgroundVisible(false);
     chart.layout()->setContentsMargins(0, 0, 0, 0);
+    chart.setMargins(QMargins(chartMargin, chartMargin, chartMargin, chartMargin));
     chart.setTitleFont(chartFont(titleSize, scale, true));
     chart.setTitleBrush(Qt::black);
     chart.setTitle(qtText(data.title).toHtmlEscaped());

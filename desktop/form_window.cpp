@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -184,7 +185,10 @@ void FormWindow::takeFocus() {
     Control* wanted = form_.focus;
     form_.focus = nullptr;
     if (wanted == nullptr || !Form::accepts(*wanted)) return;
-    if (QWidget* widget = widgetOf(*wanted)) widget->setFocus(Qt::TabFocusReason);
+    QWidget* widget = widgetOf(*wanted);
+    if (widget == nullptr) return;
+    widget->setFocus(Qt::OtherFocusReason);
+    if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll(); // typing takes its place
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {

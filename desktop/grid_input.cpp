@@ -18,6 +18,12 @@ void GridView::highlight(CellPlace from, CellPlace to) {
     });
 }
 
+void GridView::highlightStill(CellPlace from, CellPlace to) {
+    still_ = true;
+    highlight(from, to);
+    still_ = false;
+}
+
 // Mouse
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -54,13 +60,14 @@ void GridView::selectLine(CellPlace head, bool extends) {
     if (head.row > 0) from.row = to.row = head.row;
     if (extends && head.col > 0) from.col = std::max(1, grid_.col());
     if (extends && head.row > 0) from.row = std::max(1, grid_.row());
-    highlight(from, to);
+    highlightStill(from, to);
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* event) {
     if (!dragging_ || !event->buttons().testFlag(Qt::LeftButton)) return;
-    CellPlace place = geometry_.at(event->position().toPoint(), scroll());
-    place = {std::max(1, place.row), std::max(1, place.col)};
+    // Beyond the edge of the view lie the cells that are scrolled away.
+    const QPoint point = event->position().toPoint() + scroll();
+    const CellPlace place{std::max(1, geometry_.rowAt(point.y())), std::max(1, geometry_.colAt(point.x()))};
     if (place == far()) return;
     dragged_ = true;
     highlight({grid_.row(), grid_.col()}, place);

@@ -51,7 +51,7 @@ void GridView::refresh(const Layout& layout, const QFont& font) {
         updateScrollBars();
     }
     const CellPlace corner = far();
-    if (!(corner == kept_)) keepInView(corner);
+    if (!(corner == kept_) && !still_) keepInView(corner);
     kept_ = corner;
     viewport()->update();
 }
@@ -186,7 +186,7 @@ void GridView::paste() {
 }
 
 void GridView::selectAll() {
-    if (hasCells()) highlight({1, 1}, {grid_.rows() - 1, grid_.cols() - 1});
+    if (hasCells()) highlightStill({1, 1}, {grid_.rows() - 1, grid_.cols() - 1});
 }
 
 GridControlView::GridControlView(ViewContext& context, DataGrid& grid, QWidget* parent)

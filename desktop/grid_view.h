@@ -52,6 +52,7 @@ class GridView : public QAbstractScrollArea {
     void keepInView(CellPlace place);
     void act(const std::function<void()>& action);
     void highlight(CellPlace from, CellPlace to);
+    void highlightStill(CellPlace from, CellPlace to);
     void pressAt(CellPlace place, bool extends);
     void selectLine(CellPlace head, bool extends);
     bool moveKey(QKeyEvent* event);
@@ -70,6 +71,7 @@ class GridView : public QAbstractScrollArea {
     QFont font_;
     CellPlace kept_{-1, -1}; ///< the far corner of the highlight when it was last brought into view
     CellPlace pressed_;
+    bool still_ = false; ///< a whole column or row is marked: nothing scrolls for its far end
     bool dragging_ = false;
     bool dragged_ = false;
 };

@@ -67,7 +67,7 @@ class PagePainter {
         QSizeF size(picture.width / hundredthsPerPoint, picture.height / hundredthsPerPoint);
         if (size.width() > room.width() || size.height() > room.height())
             size.scale(room, Qt::KeepAspectRatio);
-        painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter_.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
         if (!image.isNull()) painter_.drawImage(QRectF(QPointF(0, 0), size), image);
     }
 

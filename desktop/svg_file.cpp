@@ -31,6 +31,23 @@ void needApplication() {
     substituteFonts();
 }
 
+/// Names behind each family the ones that other systems have in its place.
+QByteArray withFallbackFonts(QByteArray svg) {
+    constexpr const char* sans = "'Liberation Sans', Helvetica, sans-serif";
+    struct Family {
+        const char* name;
+        const char* others;
+    };
+    for (const Family& family : {Family{"Arial", sans}, Family{"MS Sans Serif", sans},
+                                 Family{"Courier New", "'Liberation Mono', monospace"},
+                                 Family{"Times Roman", "'Liberation Serif', serif"}}) {
+        const QByteArray name(family.name);
+        svg.replace("font-family=\"" + name + "\"",
+                    "font-family=\"'" + name + "', " + QByteArray(family.others) + "\"");
+    }
+    return svg;
+}
+
 } // namespace
 
 QByteArray svgOf(const Form& form, const Control& drawing) {
@@ -48,7 +65,7 @@ QByteArray svgOf(const Form& form, const Control& drawing) {
     QPainter painter(&generator);
     paintDrawing(painter, form, drawing);
     painter.end();
-    return bytes;
+    return withFallbackFonts(bytes);
 }
 
 void writeSvgFile(const Form& form, const Control& drawing, const std::filesystem::path& path) {
