@@ -38,6 +38,7 @@ void reshapeMatrix(DataGrid& grid, int rows, int cols, int roleRows, int roleCol
     for (int row = 0; row < rows; ++row)
         for (int col = 0; col < cols; ++col)
             grid.setCell(row, col, cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)]);
+    grid.setCurrent(grid.row(), grid.col());
 }
 
 void relationKeyPress(DataGrid& grid, int code) {

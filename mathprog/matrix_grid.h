@@ -9,7 +9,8 @@ namespace vantore {
 
 /// Gives the grid `rows` x `cols` cells in all, headings included. Body cells and headings stay in their row
 /// and column; the last `roleRows` rows and `roleCols` columns, headings included, move with their role to
-/// the new end. New cells are empty. SubscriptOutOfRange when the new grid has no room for the roles.
+/// the new end. New cells are empty, and the
+/// highlight is the current cell alone. SubscriptOutOfRange when the new grid has no room for the roles.
 void reshapeMatrix(DataGrid& grid, int rows, int cols, int roleRows, int roleCols);
 
 /// One key in a cell that holds a relation: "<", "=" and ">" are added to it, Escape clears the

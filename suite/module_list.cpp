@@ -2,7 +2,9 @@
 
 #include <memory>
 
+#include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
+#include "mathprog/LNPROG/Lnprog.h"
 
 namespace vantore {
 
@@ -18,6 +20,8 @@ ModuleEntry entry(const char* caption) {
 std::vector<ModuleEntry> moduleList() {
     return {
         entry<cog::COG>("COG"),
+        entry<mulreg::MULREG>("MULREG"),
+        entry<lnprog::Lnprog>("LNPROG"),
     };
 }
 

@@ -23,14 +23,14 @@ void DataGrid::setRows(int count) {
     rows_ = std::max(count, 1);
     cells_.resize(at(rows_), std::vector<std::string>(at(cols_)));
     rowHeights_.resize(at(rows_), designRowHeight);
-    if (row_ >= rows_) setCurrent(rows_ - 1, col_);
+    if (selection_.endRow >= rows_) setCurrent(std::min(row_, rows_ - 1), col_);
 }
 
 void DataGrid::setCols(int count) {
     cols_ = std::max(count, 1);
     for (auto& row : cells_) row.resize(at(cols_));
     colWidths_.resize(at(cols_), designColWidth);
-    if (col_ >= cols_) setCurrent(row_, cols_ - 1);
+    if (selection_.endCol >= cols_) setCurrent(row_, std::min(col_, cols_ - 1));
 }
 
 const std::string& DataGrid::cell(int row, int col) const {
@@ -50,7 +50,7 @@ void DataGrid::removeItem(int row) {
     cells_.erase(cells_.begin() + row);
     rowHeights_.erase(rowHeights_.begin() + row);
     --rows_;
-    if (row_ >= rows_) setCurrent(rows_ - 1, col_);
+    if (selection_.endRow >= rows_) setCurrent(std::min(row_, rows_ - 1), col_);
 }
 
 void DataGrid::clearRow(int row) {

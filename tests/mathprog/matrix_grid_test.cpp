@@ -39,6 +39,15 @@ TEST(ReshapeMatrix, CutsTheBodyAndKeepsTheRoles) {
     EXPECT_EQ(grid.cell(2, 3), "34");
 }
 
+TEST(ReshapeMatrix, LeavesNoHighlightBeyondTheGrid) {
+    DataGrid grid("Grid");
+    fill(grid);
+    grid.select({.startRow = 1, .endRow = 3, .startCol = 2, .endCol = 2});
+    reshapeMatrix(grid, 3, 4, 1, 2);
+    EXPECT_EQ(grid.row(), 1);
+    EXPECT_EQ(grid.selection().endRow, 1);
+}
+
 TEST(ReshapeMatrix, RefusesAGridWithoutRoomForTheRoles) {
     DataGrid grid("Grid");
     fill(grid);

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "demand/MULREG/problem.h"
+
+namespace vantore::mulreg {
+
+/// Linear regression of the last variable on the others, stepwise on their correlation matrix.
+///
+/// Source: Efroymson, "Multiple regression analysis", in Ralston and Wilf, Mathematical Methods for Digital
+/// Computers (1960). Variables are numbered 1 to p as in `Observations`; p is the dependent one. All sums are
+/// taken over the plain values, so about as many digits are lost as the mean has before the deviation begins.
+
+/// Means, deviations and correlations of the variables.
+struct Moments {
+    Table<double, 1, columnCount> mean;
+    Table<double, 1, columnCount> deviation;
+    Table<double, 1, columnCount> squares; ///< corrected sum of squares
+    Table2<double, 1, columnCount, 1, columnCount> correlation;
+};
+
+/// Nothing when a variable has no deviation: all its values are equal, or differ by no more than rounding.
+/// DivisionByZero for fewer than two observations, Overflow beyond the double range.
+std::optional<Moments> momentsOf(const Observations& observations);
+
+/// A variable in the equation.
+struct Term {
+    int variable = 0;
+    double coefficient = 0;
+    double standardError = 0;
+    double tRatio = 0;
+};
+
+/// The equation at one pass, and how the pass ends.
+struct Step {
+    enum class End {
+        Entering,
+        Leaving,
+        Insufficient, ///< no variable may leave or enter
+        Endless       ///< variables enter and leave in a circle
+    };
+
+    double intercept = 0;
+    std::vector<Term> terms; ///< in the order of the variables
+    double standardError = 0;
+    double rSquare = 0;
+    double totalF = 0;
+    int degreesOfFreedom = 0; ///< of the residual
+    int entered = 0;          ///< variables entered, 1 when there are none
+    End end = End::Insufficient;
+    int moved = 0;           ///< the variable that enters or leaves
+    double incrementalF = 0; ///< of the entering or leaving test
+};
+
+struct Criteria {
+    double enteringLevel = 0; ///< a variable enters when its F is above
+    double leavingLevel = 0;  ///< a variable leaves when its F is below
+    bool positive = false;    ///< an R-square or total F below 0 is replaced by its absolute value
+};
+
+/// How often the same variables may make up the equation before the steps count as endless. Two F-levels of
+/// which the one for leaving is above the one for entering can let a variable in and out for ever; a
+/// procedure that ends comes back to an equation by rounding only.
+constexpr int mostReturns = 5;
+
+/// The steps from the intercept alone to the last. There is always at least one.
+/// DivisionByZero when no degree of freedom is left or the equation fits without any residual.
+std::vector<Step> regress(const Moments& moments, int observationCount, int variableCount,
+                          const Criteria& criteria);
+
+/// The estimate of the dependent variable for observation i.
+double estimate(const Step& step, const Observations& observations, int i);
+
+struct AnalysisOfVariance {
+    double regressionSquares = 0;
+    double residualSquares = 0;
+    double totalSquares = 0;
+    double regressionMean = 0;
+    double residualMean = 0;
+};
+
+/// The analysis of variance of a step. `deviation` is that of the dependent variable.
+AnalysisOfVariance varianceOf(const Step& step, double deviation, int observationCount);
+
+} // namespace vantore::mulreg
