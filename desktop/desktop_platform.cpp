@@ -41,21 +41,6 @@ class NormalPointer {
     bool busy_;
 };
 
-/// Gives the keyboard back to the window in front when a dialog over it has gone; not every window manager
-/// does.
-class KeyboardReturn {
-  public:
-    explicit KeyboardReturn(const Windows& windows) : windows_(windows) {}
-    ~KeyboardReturn() {
-        if (FormWindow* front = windows_.front()) front->activateWindow();
-    }
-    KeyboardReturn(const KeyboardReturn&) = delete;
-    KeyboardReturn& operator=(const KeyboardReturn&) = delete;
-
-  private:
-    const Windows& windows_;
-};
-
 /// A dialog over a window that is drawn smaller than its design is as much smaller itself, about the same
 /// centre.
 void placeDialog(FormWindow& window, const DialogForm& dialog, double zoom) {
@@ -73,7 +58,6 @@ void placeDialog(FormWindow& window, const DialogForm& dialog, double zoom) {
 
 void DesktopPlatform::showModal(DialogForm& dialog) {
     const NormalPointer pointer;
-    const KeyboardReturn keyboard(windows_);
     windows_.refresh(); // what has been drawn so far is seen behind the question
     const FormWindow* behind = windows_.front();
     const double zoom = behind == nullptr ? 1 : std::min(1.0, behind->zoom());
@@ -91,7 +75,6 @@ void DesktopPlatform::showModal(DialogForm& dialog) {
 
 std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
     const NormalPointer pointer;
-    const KeyboardReturn keyboard(windows_);
     windows_.refresh();
     return vantore::chooseFile(windows_.front(), dialog);
 }
@@ -104,7 +87,6 @@ Printer::Area DesktopPlatform::printableArea(Orientation orientation) const {
 
 void DesktopPlatform::print(const PrintJob& job) {
     const NormalPointer pointer;
-    const KeyboardReturn keyboard(windows_);
     windows_.refresh();
     printWithPreview({windows_.front(), steps_.outputFolder()}, job);
 }

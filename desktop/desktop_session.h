@@ -5,6 +5,7 @@
 #include <string>
 
 #include "desktop/desktop_platform.h"
+#include "desktop/keyboard_keeper.h"
 #include "desktop/windows.h"
 #include "shell/launcher.h"
 #include "shell/suite.h"
@@ -32,6 +33,7 @@ class DesktopSession : public QObject, public WindowSteps {
     void report(const char* text);
 
     Windows windows_;
+    KeyboardKeeper keyboard_{windows_};
     DesktopPlatform platform_;
     Platform parts_;
     Suite suite_;

@@ -38,9 +38,7 @@ PrintedLine onPaper(const ReportLine& line, double scale) {
 
 bool printWithPreview(const AskingPlace& place, const PrintJob& job) {
     PrintWindow print(place.window, job, qtText(place.folder));
-    const bool accepted = print.exec() == QDialog::Accepted;
-    if (place.window != nullptr) place.window->activateWindow();
-    if (!accepted) return false;
+    if (print.exec() != QDialog::Accepted) return false;
     print.print();
     return true;
 }

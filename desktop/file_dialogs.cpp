@@ -98,9 +98,7 @@ std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog,
     box.setNameFilters(nameFilters(dialog.filter) << "All files (*)");
     if (!suggested.isEmpty()) box.selectFile(suggested);
     box.nameBox()->setFocus();
-    const bool accepted = box.exec() == QDialog::Accepted;
-    if (parent != nullptr) parent->activateWindow();
-    if (!accepted || box.selectedFiles().isEmpty()) return std::nullopt;
+    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
     return utf8Text(box.selectedFiles().first());
 }
 

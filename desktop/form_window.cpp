@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
@@ -128,7 +129,23 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (dialog_ && event->key() == Qt::Key_Escape) return act([this] { form_.close(); });
     if (dialog_ && enter) return pressDefault();
+    if (dialog_ && pressLetter(event->text())) return;
     QWidget::keyPressEvent(event);
+}
+
+/// In a dialog the mnemonic letter needs no Alt where no text box takes it.
+bool FormWindow::pressLetter(const QString& letter) {
+    const auto has = [&](const Control& control) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(qtText(control.caption));
+        return !mnemonic.isEmpty() && mnemonic == QKeySequence("Alt+" + letter.toUpper());
+    };
+    for (const auto& control : form_.controls()) {
+        auto* button = dynamic_cast<Button*>(control.get());
+        if (button == nullptr || letter.isEmpty() || !has(*button)) continue;
+        act([this, button] { form_.press(*button); });
+        return true;
+    }
+    return false;
 }
 
 void FormWindow::pressDefault() {

@@ -49,8 +49,8 @@ class FormWindow : public QWidget, public ViewContext {
     /// Called by `refresh` once the form has closed.
     std::function<void()> onClosed;
 
-    /// A dialog keeps the other windows waiting. It is closed by Escape, and Enter in its text box presses
-    /// its first button.
+    /// A dialog keeps the other windows waiting. Escape closes it, Enter in its text box presses its first
+    /// button, and a mnemonic letter its button without Alt.
     void behaveAsDialog();
 
   protected:
@@ -70,6 +70,7 @@ class FormWindow : public QWidget, public ViewContext {
     void leaveLeftBox();
     void leaveSoon();
     void pressDefault();
+    bool pressLetter(const QString& letter);
 
     Form& form_;
     WindowSteps& steps_;

@@ -207,6 +207,18 @@ TEST(DialogWindow, EnterInTheTextBoxPressesOk) {
     EXPECT_EQ(dialog.reply, "12");
 }
 
+TEST(DialogWindow, ALetterAloneAnswersAQuestion) {
+    YNBx dialog({}, "Another computational cycle?", "Question", 8);
+    OpenWindow<YNBx> open(dialog);
+    open.window.behaveAsDialog();
+    open.window.show();
+    QTest::keyClick(&open.widget(dialog.cmdNo), Qt::Key_X);
+    EXPECT_FALSE(dialog.closed);
+    QTest::keyClick(&open.widget(dialog.cmdNo), Qt::Key_Y);
+    EXPECT_TRUE(dialog.closed);
+    EXPECT_EQ(dialog.reply, replyYes);
+}
+
 TEST(DialogWindow, EscapeAndTheTitleBarAreNo) {
     YNBx dialog({}, "Another computational cycle?", "Question", 8);
     OpenWindow<YNBx> open(dialog);
