@@ -12,6 +12,8 @@ enum class SeriesKind { Line, Bars, Points };
 
 struct ChartPoint {
     double x, y;
+
+    bool operator==(const ChartPoint&) const = default;
 };
 
 struct ChartSeries {
@@ -19,6 +21,8 @@ struct ChartSeries {
     SeriesKind kind = SeriesKind::Line;
     int colour = colour::lightRed;
     std::vector<ChartPoint> points;
+
+    bool operator==(const ChartSeries&) const = default;
 };
 
 /// An axis with its ends; the ticks between them are the drawer's, at round values.
@@ -26,6 +30,8 @@ struct ChartAxis {
     std::string label;
     double low = 0;
     double high = 1;
+
+    bool operator==(const ChartAxis&) const = default;
 };
 
 /// What a chart shows: all values finite.
@@ -33,6 +39,8 @@ struct ChartData {
     std::string title;
     ChartAxis x, y;
     std::vector<ChartSeries> series;
+
+    bool operator==(const ChartData&) const = default;
 };
 
 class Chart : public Control {

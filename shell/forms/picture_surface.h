@@ -17,24 +17,32 @@ struct SurfaceText {
     std::string text;
     Font font;
     int colour;
+
+    bool operator==(const SurfaceText&) const = default;
 };
 
 struct SurfaceLine {
     double x1, y1, x2, y2;
     int colour;
     double width = 1;
+
+    bool operator==(const SurfaceLine&) const = default;
 };
 
 struct SurfaceBox {
     double x1, y1, x2, y2;
     int colour;
     bool filled = false;
+
+    bool operator==(const SurfaceBox&) const = default;
 };
 
 struct SurfaceCircle {
     double x, y, radius;
     int colour;
     bool filled = false;
+
+    bool operator==(const SurfaceCircle&) const = default;
 };
 
 using SurfaceOperation = std::variant<SurfaceText, SurfaceLine, SurfaceBox, SurfaceCircle>;

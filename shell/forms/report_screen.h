@@ -12,6 +12,8 @@ struct ReportLine {
     std::string text;
     Font font;
     int colour = colour::black;
+
+    bool operator==(const ReportLine&) const = default;
 };
 
 /// The report box: lines, each in a font and colour of its own, that a user can read, mark and copy.

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QElapsedTimer>
+
+#include "desktop/windows.h"
+#include "shell/platform.h"
+
+namespace vantore {
+
+/// The outside world on a desktop: windows, printers, the clipboard, programs and the screen.
+class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public Programs, public Display {
+  public:
+    DesktopPlatform(Windows& windows, WindowSteps& steps) : windows_(windows), steps_(steps) {}
+
+    Platform parts() { return {*this, *this, *this, *this, *this}; }
+
+    void showModal(DialogForm& dialog) override;
+    std::optional<std::string> chooseFile(const FileDialog& dialog) override;
+
+    Area printableArea(Orientation orientation) const override;
+
+    /// Shows the document first; a user who cancels there prints nothing, which is no error.
+    void print(const PrintJob& job) override;
+
+    void clear() override;
+    void setText(const std::string& text) override;
+    void setPicture(const CapturedPicture& picture) override;
+
+    std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
+                                          const std::filesystem::path& folder,
+                                          const std::vector<Variable>& environment) override;
+    bool startSpreadsheet() override;
+
+    Extent screen() const override;
+    Extent textExtent(const std::string& text, const Font& font, double width) const override;
+    PixelRect clientArea(const Form& form) const override;
+    CapturedPicture capture(const Form& form, const PixelRect& area) override;
+    void setBusyPointer(bool busy) override;
+    void beep() override;
+    void processEvents() override;
+
+  private:
+    Windows& windows_;
+    WindowSteps& steps_;
+    QElapsedTimer sinceRefresh_;
+};
+
+} // namespace vantore

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "shell/platform.h"
+
+class QWidget;
+
+namespace vantore {
+
+/// The filters of a file dialog: "Center of gravity (COG*.dat)|COG*.dat|" gives
+/// "Center of gravity (COG*.dat)". Several patterns stand between semicolons or blanks.
+QStringList nameFilters(std::string_view filter);
+
+/// The path that a typed name stands for: a file that is there, spelled in any case, with the ending or
+/// without, else the name with the ending.
+std::string pathForName(const std::string& path, const std::string& ending);
+
+/// Asks for a file. Open takes a name that doesn't exist yet, Save asks before it takes one that does.
+/// `suggested` is the name in the box at first.
+std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog,
+                                      const QString& suggested = {});
+
+} // namespace vantore

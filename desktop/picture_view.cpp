@@ -1,0 +1,59 @@
+#include "desktop/picture_view.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <memory>
+
+#include "desktop/fonts.h"
+
+namespace vantore {
+
+namespace {
+
+/// Reads and draws its picture when it is first seen; later only what was drawn.
+class Image : public QWidget {
+  public:
+    Image(QWidget* parent, const Picture& picture) : QWidget(parent), picture_(picture) {}
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        const double ratio = devicePixelRatioF();
+        if (drawn_.isNull() || drawn_.size() != size() * ratio) draw(ratio);
+        QPainter(this).drawPixmap(0, 0, drawn_);
+    }
+
+  private:
+    void draw(double ratio) {
+        drawn_ = QPixmap(size() * ratio);
+        drawn_.setDevicePixelRatio(ratio);
+        drawn_.fill(Qt::transparent);
+        QSvgRenderer renderer(pictureFile(picture_.image));
+        QPainter painter(&drawn_);
+        const QSizeF room = size();
+        const QSizeF shape = QSizeF(renderer.defaultSize()).scaled(room, Qt::KeepAspectRatio);
+        renderer.render(
+            &painter,
+            QRectF(QPointF((room.width() - shape.width()) / 2, (room.height() - shape.height()) / 2), shape));
+    }
+
+    const Picture& picture_;
+    QPixmap drawn_;
+};
+
+} // namespace
+
+QString pictureFile(const std::string& name) {
+    const QString file = QString(":/pictures/%1.svg").arg(qtText(name));
+    return QFile::exists(file) ? file : QString(":/pictures/general.svg");
+}
+
+PictureView::PictureView(ViewContext& context, Picture& picture, QWidget* parent)
+    : ControlView(context, picture, std::make_unique<Image>(parent, picture).release()) {
+    widget()->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void PictureView::syncContent(const Layout& /*layout*/) {}
+
+} // namespace vantore

@@ -1,0 +1,93 @@
+#include "desktop/file_dialogs.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "desktop/fonts.h"
+#include "shell/base/text_file.h"
+#include "tests/support/temporary_folder.h"
+
+namespace vantore::tests {
+namespace {
+
+TEST(FileDialogs, FiltersAreConverted) {
+    EXPECT_EQ(nameFilters("Center of gravity (COG*.dat)|COG*.dat|"),
+              QStringList{"Center of gravity (COG*.dat)"});
+    EXPECT_EQ(nameFilters("Vehicle routing & scheduling (RTR*.dat)|RTR*.dat|"),
+              QStringList{"Vehicle routing & scheduling (RTR*.dat)"});
+    EXPECT_EQ(nameFilters("Picture|*.png;*.jpg|All files|*.*|"),
+              (QStringList{"Picture (*.png *.jpg)", "All files (*.*)"}));
+    EXPECT_EQ(nameFilters(""), QStringList());
+}
+
+TEST(FileDialogs, ATypedNameFindsItsFileInAnyCaseAndWithoutEnding) {
+    const TemporaryFolder folder;
+    const std::string path = textOf(folder.path()) + "/";
+    replaceFile(folder.path() / "COG01.dat", "x");
+    EXPECT_EQ(pathForName(path + "cog01.DAT", "dat"), path + "COG01.dat");
+    EXPECT_EQ(pathForName(path + "cog01", "dat"), path + "COG01.dat");
+    EXPECT_EQ(pathForName(path + "COG02", "dat"), path + "COG02.dat");
+    EXPECT_EQ(pathForName(path + "COG02.txt", "dat"), path + "COG02.txt");
+    EXPECT_EQ(pathForName(path + "COG02", ""), path + "COG02");
+}
+
+/// Does something to the dialog that comes up next.
+void withNextDialog(const std::function<void(QWidget&)>& action) {
+    QTimer::singleShot(50, [action] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) return action(*dialog);
+        withNextDialog(action);
+    });
+}
+
+std::optional<std::string> typed(const FileDialog& dialog, const char* name) {
+    withNextDialog([name](QWidget& box) {
+        auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
+        QTest::keyClicks(edit, name);
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    return chooseFile(nullptr, dialog);
+}
+
+FileDialog cogDialog(FileDialog::Kind kind, const TemporaryFolder& folder) {
+    return {.kind = kind,
+            .title = "Open center-of-gravity data file",
+            .folder = textOf(folder.path()) + "/",
+            .filter = "Center of gravity (COG*.dat)|COG*.dat|"};
+}
+
+TEST(FileDialogs, OpenTakesANameThatIsNotThereYet) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(typed(cogDialog(FileDialog::Kind::Open, folder), "COGNEW.dat"),
+              textOf(folder.path() / "COGNEW.dat"));
+}
+
+TEST(FileDialogs, EscapeCancels) {
+    const TemporaryFolder folder;
+    withNextDialog([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(chooseFile(nullptr, cogDialog(FileDialog::Kind::Open, folder)), std::nullopt);
+}
+
+TEST(FileDialogs, SaveAsksBeforeItTakesAFileThatIsThere) {
+    const TemporaryFolder folder;
+    replaceFile(folder.path() / "COG01.dat", "x");
+    std::string question;
+    withNextDialog([&](QWidget& box) {
+        withNextDialog([&](QWidget& asked) {
+            question = utf8Text(asked.property("text").toString());
+            QTest::keyClick(&asked, Qt::Key_Escape);
+            withNextDialog([](QWidget& again) { QTest::keyClick(&again, Qt::Key_Escape); });
+        });
+        auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
+        QTest::keyClicks(edit, "cog01.dat");
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    EXPECT_EQ(chooseFile(nullptr, cogDialog(FileDialog::Kind::Save, folder)), std::nullopt);
+    EXPECT_NE(question.find("COG01.dat already exists"), std::string::npos) << question;
+}
+
+} // namespace
+} // namespace vantore::tests

@@ -1,0 +1,250 @@
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QScrollBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "desktop/grid_view.h"
+#include "tests/desktop/sample_form.h"
+
+namespace vantore::tests {
+namespace {
+
+class GridViewTest : public testing::Test {
+  protected:
+    GridViewTest() { view.setFocus(); }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(&view, key, modifiers);
+    }
+    void type(const char* text) { QTest::keyClicks(&view, text); }
+
+    QPoint middle(int row, int col) const { return view.cellRect(row, col).center(); }
+    void click(int row, int col, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, middle(row, col));
+    }
+    void doubleClick(int row, int col) {
+        click(row, col);
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, middle(row, col));
+        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, middle(row, col));
+    }
+    void drag(int row1, int col1, int row2, int col2) {
+        QTest::mousePress(view.viewport(), Qt::LeftButton, {}, middle(row1, col1));
+        QMouseEvent move(QEvent::MouseMove, middle(row2, col2),
+                         view.viewport()->mapToGlobal(middle(row2, col2)), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(view.viewport(), &move);
+        QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, middle(row2, col2));
+    }
+
+    std::string selection() const {
+        const CellBlock& block = form.grid.selection();
+        return std::to_string(block.startRow) + "," + std::to_string(block.startCol) + " - " +
+               std::to_string(block.endRow) + "," + std::to_string(block.endCol);
+    }
+    std::string current() const {
+        return std::to_string(form.grid.row()) + "," + std::to_string(form.grid.col());
+    }
+
+    bool inView(int row, int col) const {
+        const QRect room(0, view.cellRect(0, 0).bottom(), view.viewport()->width(),
+                         view.viewport()->height() - view.cellRect(0, 0).height());
+        return room.contains(view.cellRect(row, col).center());
+    }
+
+    SampleForm form;
+    OpenWindow<SampleForm> open{form};
+    GridView& view = open.widget<GridView>(form.grid);
+};
+
+TEST_F(GridViewTest, TypingChangesTheCurrentCellByItsRules) {
+    click(2, 3);
+    type("12,5x");
+    EXPECT_EQ(form.grid.cell(2, 3), "125x");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(form.grid.cell(2, 3), "125");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(form.grid.cell(2, 3), "");
+}
+
+TEST_F(GridViewTest, EnterMovesDown) {
+    click(2, 3);
+    type("7");
+    key(Qt::Key_Return);
+    EXPECT_EQ(current(), "3,3");
+    EXPECT_EQ(form.grid.cell(2, 3), "7");
+}
+
+TEST_F(GridViewTest, ArrowsStopAtTheFixedCells) {
+    click(1, 1);
+    key(Qt::Key_Up);
+    key(Qt::Key_Left);
+    EXPECT_EQ(current(), "1,1");
+    key(Qt::Key_Down);
+    key(Qt::Key_Right);
+    EXPECT_EQ(current(), "2,2");
+}
+
+TEST_F(GridViewTest, HomeAndEndMoveInTheRowAndWithControlToTheCorners) {
+    click(3, 2);
+    key(Qt::Key_End);
+    EXPECT_EQ(current(), "3,4");
+    key(Qt::Key_Home);
+    EXPECT_EQ(current(), "3,1");
+    key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(current(), "40,4");
+    key(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(current(), "1,1");
+}
+
+TEST_F(GridViewTest, PageKeysMoveByTheRowsInView) {
+    click(1, 1);
+    key(Qt::Key_PageDown);
+    const int page = form.grid.row() - 1;
+    EXPECT_GT(page, 3);
+    EXPECT_LT(page, 20);
+    EXPECT_TRUE(inView(form.grid.row(), 1));
+    key(Qt::Key_PageUp);
+    EXPECT_EQ(current(), "1,1");
+}
+
+TEST_F(GridViewTest, TheCurrentCellIsKeptInViewAndTheHeadingsStay) {
+    click(1, 1);
+    for (int i = 0; i < 30; ++i) key(Qt::Key_Down);
+    for (int i = 0; i < 3; ++i) key(Qt::Key_Right);
+    EXPECT_TRUE(inView(31, 4));
+    EXPECT_FALSE(inView(1, 1));
+    EXPECT_EQ(view.cellRect(0, 4).top(), 0);
+    EXPECT_EQ(view.cellRect(31, 0).left(), 0);
+}
+
+TEST_F(GridViewTest, ShiftExtendsTheHighlightFromTheCurrentCell) {
+    click(3, 2);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "3,2 - 5,3");
+    EXPECT_EQ(current(), "3,2");
+    key(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "3,2 - 4,3");
+    click(1, 1, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "1,1 - 3,2");
+    EXPECT_EQ(current(), "3,2");
+}
+
+TEST_F(GridViewTest, AClickIsToldOnceAndADragIsNone) {
+    click(2, 2);
+    EXPECT_EQ(form.log, "click 2,2 ");
+    drag(2, 1, 4, 2);
+    EXPECT_EQ(form.log, "click 2,2 ");
+    EXPECT_EQ(selection(), "2,1 - 4,2");
+}
+
+TEST_F(GridViewTest, AHeadingHighlightsItsColumnAndARowNumberItsRow) {
+    click(0, 2);
+    EXPECT_EQ(selection(), "1,2 - 40,2");
+    EXPECT_TRUE(inView(1, 2));
+    click(5, 0);
+    EXPECT_EQ(selection(), "5,1 - 5,4");
+    EXPECT_EQ(form.log, "");
+}
+
+TEST_F(GridViewTest, ADoubleClickIsTheGridsWhereItHasAMeaning) {
+    doubleClick(2, 2);
+    EXPECT_EQ(form.log, "click 2,2 click 2,2 ");
+    form.log.clear();
+    form.grid.onDoubleClick = [this] { form.log += "double "; };
+    doubleClick(2, 2);
+    EXPECT_EQ(form.log, "click 2,2 double ");
+}
+
+TEST_F(GridViewTest, InsertIsTheFormsKey) {
+    key(Qt::Key_Insert);
+    EXPECT_EQ(form.log, "insert ");
+}
+
+TEST_F(GridViewTest, BlocksAreCopiedAndPastedAsTabbedText) {
+    form.grid.setCell(1, 1, "Ashby");
+    form.grid.setCell(1, 2, "2.5");
+    form.grid.setCell(2, 1, "Borrow");
+    form.grid.setCell(2, 2, "8");
+    drag(1, 1, 2, 2);
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Ashby\t2.5\nBorrow\t8\n");
+    click(6, 3);
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(6, 3), "Ashby");
+    EXPECT_EQ(form.grid.cell(7, 4), "8");
+}
+
+TEST_F(GridViewTest, DeleteClearsTheBlockAsOneStepOfUndo) {
+    for (int row = 1; row < 4; ++row) form.grid.setCell(row, 1, "x");
+    form.grid.setCell(4, 1, "stays");
+    drag(1, 1, 3, 1);
+    key(Qt::Key_Delete);
+    EXPECT_EQ(form.grid.cell(1, 1) + form.grid.cell(2, 1) + form.grid.cell(3, 1), "");
+    EXPECT_EQ(form.grid.cell(4, 1), "stays");
+    EXPECT_EQ(selection(), "1,1 - 3,1");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(1, 1) + form.grid.cell(2, 1) + form.grid.cell(3, 1), "xxx");
+}
+
+TEST_F(GridViewTest, UndoAndRedoFollowTheCells) {
+    click(1, 1);
+    type("12");
+    click(2, 1);
+    type("34");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(2, 1), "");
+    EXPECT_EQ(form.grid.cell(1, 1), "12");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(1, 1), "");
+    key(Qt::Key_Y, Qt::ControlModifier);
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(1, 1) + form.grid.cell(2, 1), "1234");
+}
+
+TEST_F(GridViewTest, TabLeavesTheGridAndLettersWithControlTypeNothing) {
+    click(1, 1);
+    key(Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(form.grid.cell(1, 1), "");
+    key(Qt::Key_Tab);
+    EXPECT_FALSE(view.hasFocus());
+}
+
+TEST_F(GridViewTest, TheWheelScrollsTheRows) {
+    QWheelEvent wheel(middle(3, 2), view.viewport()->mapToGlobal(middle(3, 2)), {}, {0, -240}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view.viewport(), &wheel);
+    EXPECT_EQ(view.verticalScrollBar()->value(), 6 * view.cellRect(1, 1).height());
+}
+
+TEST_F(GridViewTest, WithoutRowsNoKeyAndNoClickDoesHarm) {
+    form.grid.setRows(1);
+    open.window.refresh();
+    for (const Qt::Key each : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Return, Qt::Key_Delete})
+        key(each);
+    type("5");
+    click(0, 2);
+    EXPECT_EQ(form.grid.rows(), 1);
+    EXPECT_EQ(form.log, "");
+}
+
+/// Count of pixels of the view that have exactly this colour.
+int pixelsOf(const QImage& image, QRgb colour) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == colour ? 1 : 0;
+    return count;
+}
+
+TEST_F(GridViewTest, TheHighlightIsSeen) {
+    constexpr QRgb highlight = 0xFFCDE2FA;
+    click(1, 1);
+    EXPECT_EQ(pixelsOf(view.viewport()->grab().toImage(), highlight), 0);
+    drag(1, 1, 4, 3);
+    EXPECT_GT(pixelsOf(view.viewport()->grab().toImage(), highlight), 4000);
+}
+
+} // namespace
+} // namespace vantore::tests

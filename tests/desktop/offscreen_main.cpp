@@ -1,0 +1,24 @@
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "desktop/fonts.h"
+
+/// Runs the tests with an application that needs no display.
+int main(int count, char** words) {
+    testing::InitGoogleTest(&count, words);
+    std::vector<char*> arguments(words, words + count);
+    std::string option = "-platform";
+    std::string platform = "offscreen";
+    arguments.insert(arguments.end(), {option.data(), platform.data(), nullptr});
+    auto argumentCount = static_cast<int>(arguments.size()) - 1;
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QApplication application(argumentCount, arguments.data());
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    vantore::substituteFonts();
+    return RUN_ALL_TESTS();
+}
