@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "demand/FORECAST/FORECAST.h"
 #include "location/COG/COG.h"
 
 namespace vantore {
@@ -18,6 +19,7 @@ ModuleEntry entry(const char* caption) {
 std::vector<ModuleEntry> moduleList() {
     return {
         entry<cog::COG>("COG"),
+        entry<forecast::FORECAST>("FORECAST"),
     };
 }
 
