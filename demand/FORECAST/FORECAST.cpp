@@ -111,10 +111,7 @@ void FORECAST::addButtons() {
     // The text under the start picture needs the whole width.
     find("Image1")->design.height = startLabelPlace.top - seriesPlace.top - 120;
     find("lblStart")->design = startLabelPlace;
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] {
-        keptRows_.forget();
-        saveProblem();
-    });
+    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
     addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
     addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
     addButton("cmdColArith", "Colu&mn Arithmetic", buttonPlace(0, 4), {View::Data}, [this] {
@@ -246,12 +243,12 @@ void FORECAST::solve() {
     cmdContinue->visible = cmdPrintTB->visible = cmdPlot->visible = false;
     forecast_.reset();
     cmdPlot->caption = "P&lot data";
-    const Busy busy(suite());
     if (seasonIsTooLong(problem)) {
         suite().platform.display.beep();
         message("Initialization period must exceed seasonal length by at least 2 periods.");
         return continueToData();
     }
+    const Busy busy(suite());
     Forecast result = forecast(problem);
     writeReportFile(reportOf(problem, result));
     showReportFile({.starredHeadings = true});

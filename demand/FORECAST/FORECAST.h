@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
+#include <string>
 
 #include "demand/FORECAST/method.h"
 #include "demand/FORECAST/problem.h"
