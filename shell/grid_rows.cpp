@@ -97,22 +97,6 @@ void setDataRows(DataGrid& grid, int count) {
     grid.setCell(1, 0, "0");
 }
 
-void KeptRows::resize(DataGrid& grid, int count) {
-    const int before = std::min(grid.rowCount, grid.rows() - 1);
-    for (int row = before; row > count; --row) {
-        auto& kept = rows_.emplace_back();
-        for (int col = 1; col < grid.cols(); ++col) kept.push_back(grid.cell(row, col));
-    }
-    setDataRows(grid, count);
-    for (int row = before + 1; row <= count; ++row) {
-        if (before == 0 && row == 1) grid.clearRow(1);
-        if (rows_.empty()) continue;
-        for (int col = 1; col < grid.cols(); ++col)
-            grid.setCell(row, col, rows_.back().at(static_cast<std::size_t>(col - 1)));
-        rows_.pop_back();
-    }
-}
-
 void fillBlanks(DataGrid& grid) {
     const int last = std::min(grid.rowCount, grid.rows() - 1);
     for (int row = 1; row <= last; ++row)

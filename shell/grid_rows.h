@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "shell/forms/data_grid.h"
 #include "shell/suite.h"
@@ -51,20 +50,6 @@ void renumberRows(DataGrid& grid);
 
 /// Shapes the grid to `count` data rows with their numbers; 0 gives one blank row with the number 0.
 void setDataRows(DataGrid& grid, int count);
-
-/// The rows of a grid that follow a number which a user types: what a smaller number cuts off comes back with
-/// a larger one, so that nothing is lost while "24" is typed over "36".
-class KeptRows {
-  public:
-    /// `setDataRows`, with the kept rows brought back in their order.
-    void resize(DataGrid& grid, int count);
-
-    /// The rows that are cut off are gone for good.
-    void forget() { rows_.clear(); }
-
-  private:
-    std::vector<std::vector<std::string>> rows_; ///< columns 1 on; the last one follows the grid's last row
-};
 
 /// Fills blanks for Save: an empty cell becomes one blank in the label column 1, else 0.
 void fillBlanks(DataGrid& grid);

@@ -1,7 +1,5 @@
 #include "demand/FORECAST/FORECAST.h"
 
-#include <algorithm>
-
 #include "demand/FORECAST/plot.h"
 #include "demand/FORECAST/report.h"
 #include "shell/base/number_text.h"
@@ -56,7 +54,6 @@ void FORECAST::addFields() {
     addLabel("lblLabel", "Problem label:", {120, 150, 1700, 270}, {View::Start, View::Data});
     txtLabel = &addTextBox("txtLabel", {1860, 120, 7620, 300});
     txtNoPrds = &addField("txtNoPrds", "Number of data periods:");
-    txtNoPrds->onChange = [this] { countChanged(); };
     txtIni = &addField("txtIni", "Periods used for model initialization:");
     txtErrPrds = &addField("txtErrPrds", "Number of periods used to compute error statistics:");
     txtSearch = &addField("txtSearch", "Search for best smoothing constant (Y/N)?");
@@ -93,6 +90,9 @@ void FORECAST::addModels() {
 void FORECAST::addSeries() {
     grdSeries = &addMainGrid("grdSeries", seriesPlace, mostPeriods);
     grdSeries->onInsertKey = [this] { changeRows([this] { insertKeyRow(suite(), *grdSeries, rowTitles); }); };
+    countBox_ = std::make_unique<RowCountBox>(*txtNoPrds, std::vector{grdSeries}, [this] {
+        message("Too many rows.  Limit is" + str(mostPeriods), rowTitles.limit);
+    });
     grdSeries->setCols(3);
     const std::array<const char*, 3> captions = {"Prd\r\nno.", "Period label", "Time series\r\ndata, units"};
     const std::array<double, 3> widths = {560, 1800, 1400};
@@ -137,23 +137,9 @@ void FORECAST::addOutcomeButtons() {
         &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlot(); });
 }
 
-// The series follows its number of periods, and the number the series.
-
-void FORECAST::countChanged() {
-    const double count = std::max(roundedCount(val(txtNoPrds->text())), 0.0);
-    if (count == grdSeries->rowCount) return;
-    if (count > mostPeriods) {
-        message("Too many rows.  Limit is" + str(mostPeriods), rowTitles.limit);
-        txtNoPrds->setText(std::to_string(grdSeries->rowCount));
-        return;
-    }
-    keptRows_.resize(*grdSeries, static_cast<int>(count));
-}
-
 void FORECAST::changeRows(const std::function<void()>& operation) {
-    keptRows_.forget();
     operation();
-    txtNoPrds->setText(std::to_string(grdSeries->rowCount));
+    countBox_->settle();
 }
 
 void FORECAST::checkSearchAnswer() {
@@ -165,14 +151,13 @@ void FORECAST::checkSearchAnswer() {
 
 void FORECAST::readProblem(ItemReader& reader) {
     const Problem problem = read(reader);
-    keptRows_.forget();
     setDataRows(*grdSeries, problem.dataPeriods);
     for (int t = 1; t <= problem.dataPeriods; ++t) {
         grdSeries->setCell(t, labelColumn, problem.periods(t).label);
         grdSeries->setCell(t, valueColumn, defaultText(problem.periods(t).value));
     }
     txtLabel->setText(problem.label);
-    txtNoPrds->setText(std::to_string(problem.dataPeriods));
+    countBox_->settle();
     txtIni->setText(defaultText(problem.initialPeriods));
     txtErrPrds->setText(defaultText(problem.errorPeriods));
     for (std::size_t i = 0; i < models_.size(); ++i)

@@ -2,13 +2,14 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "demand/FORECAST/method.h"
 #include "demand/FORECAST/problem.h"
-#include "shell/grid_rows.h"
 #include "shell/module_frame.h"
+#include "shell/row_count_box.h"
 
 namespace vantore::forecast {
 
@@ -32,7 +33,6 @@ class FORECAST : public ModuleFrame {
     void addButtons();
     void addOutcomeButtons();
 
-    void countChanged();
     void changeRows(const std::function<void()>& operation);
     void checkSearchAnswer();
     void solve();
@@ -62,8 +62,8 @@ class FORECAST : public ModuleFrame {
     Button* cmdPlot = nullptr;
     Button* cmdPrintTB = nullptr;
 
-    KeptRows keptRows_;                ///< rows that a smaller number of periods has cut off
-    std::optional<Forecast> forecast_; ///< of the last Solve since a file was opened
+    std::unique_ptr<RowCountBox> countBox_; ///< txtNoPrds and the rows of grdSeries
+    std::optional<Forecast> forecast_;      ///< of the last Solve since a file was opened
 };
 
 } // namespace vantore::forecast

