@@ -209,7 +209,7 @@ std::optional<std::string> ModuleFrame::chooseSaveName() {
 
 bool ModuleFrame::saveProblem() {
     const std::optional<std::string> path = chooseSaveName();
-    if (!path) return false;
+    if (!path || !mayBeWritten()) return false;
     const Busy busy(suite_);
     fillBlankCells();
     ItemWriter writer;

@@ -70,6 +70,9 @@ class ModuleFrame : public Form {
     /// False, after a message of its own, when the problem can't be saved under that bare, upper-case name.
     virtual bool mayBeSavedAs(const std::string& /*upperCaseName*/) { return true; }
 
+    /// False, after a message of its own, when the problem isn't fit to be written; the Save ends there.
+    virtual bool mayBeWritten() { return true; }
+
     // The operations.
 
     void openProblem();

@@ -2,8 +2,9 @@
 
 #include <memory>
 
-#include "demand/MULREG/MULREG.h"
+#include "demand/FORECAST/FORECAST.h"
 #include "demand/INPOL/INPOL.h"
+#include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
 #include "mathprog/LNPROG/Lnprog.h"
 
@@ -20,10 +21,11 @@ ModuleEntry entry(const char* caption) {
 
 std::vector<ModuleEntry> moduleList() {
     return {
+        entry<forecast::FORECAST>("FORECAST"),
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
-        entry<mulreg::MULREG>("MULREG"),
         entry<lnprog::Lnprog>("LNPROG"),
+        entry<mulreg::MULREG>("MULREG"),
     };
 }
 
