@@ -37,14 +37,15 @@ void EditHistory::recordStep(std::vector<Edit> edits) {
 
 void EditHistory::undo() {
     if (!canUndo()) return;
-    const std::vector<Edit>& step = steps_[--done_];
+    const std::vector<Edit> step = steps_[--done_]; // a text put back may clear the history
     for (auto edit = step.rbegin(); edit != step.rend(); ++edit) put(*edit, edit->before);
     mergeable_ = false;
 }
 
 void EditHistory::redo() {
     if (!canRedo()) return;
-    for (const Edit& edit : steps_[done_++]) put(edit, edit.after);
+    const std::vector<Edit> step = steps_[done_++];
+    for (const Edit& edit : step) put(edit, edit.after);
     mergeable_ = false;
 }
 
