@@ -34,7 +34,6 @@ namespace vantore::tranlp {
 struct Tableau {
     int rows = 0;                       ///< M with a balancing row
     int cols = 0;                       ///< N with a balancing column
-    int chainLimit = 0;                 ///< L, most rows of an augmenting path
     PlaceTable<std::int32_t> unitsLeft; ///< remaining supply
     PlaceTable<std::int32_t> needLeft;  ///< remaining demand; in sum as much as `unitsLeft`
     CellTable<double> reduced;          ///< costs in front of the method, reduced costs behind it

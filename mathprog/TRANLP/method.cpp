@@ -1,6 +1,8 @@
 #include "mathprog/TRANLP/method.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 #include "shell/base/arithmetic.h"
 
@@ -19,13 +21,18 @@ std::int32_t takeUnits(const PlaceTable<double>& amounts, int count, PlaceTable<
 }
 
 void addTotals(const Problem& problem, Plan& plan) {
-    for (int i = 1; i <= problem.sources; ++i)
-        for (int j = 1; j <= problem.sinks; ++j) {
-            const double units = plan.alloc(i, j);
+    const std::span<double> colTotal = plan.colTotal.span();
+    for (int i = 1; i <= problem.sources; ++i) {
+        const auto alloc = plan.alloc.row(i);
+        const auto cost = problem.cost.row(i);
+        for (std::size_t j = 1; j <= static_cast<std::size_t>(problem.sinks); ++j) {
+            const double units = alloc[j];
             plan.rowTotal(i) += units;
-            plan.colTotal(j) += units;
-            plan.totalCost = finite(plan.totalCost + finite(units * problem.cost(i, j)));
+            colTotal[j] += units;
+            plan.totalCost += units * cost[j];
         }
+    }
+    finite(plan.totalCost);
 }
 
 } // namespace
@@ -34,7 +41,6 @@ Tableau balanced(const Problem& problem) {
     Tableau tableau;
     tableau.rows = problem.sources;
     tableau.cols = problem.sinks;
-    tableau.chainLimit = problem.sources * problem.sinks;
     tableau.reduced = problem.cost;
     const std::int32_t supply = takeUnits(problem.supply, problem.sources, tableau.unitsLeft);
     const std::int32_t demand = takeUnits(problem.demand, problem.sinks, tableau.needLeft);

@@ -26,6 +26,15 @@ double smaller(double a, double b) {
     return b < a ? b : a;
 }
 
+/// The least value of a row of fixed length, by eight at a time.
+template <class Line> double leastOf(const Line& line) {
+    std::array<double, 8> least;
+    least.fill(noCost);
+    for (std::size_t start = 0; start < line.size(); start += least.size())
+        for (std::size_t k = 0; k < least.size(); ++k) least[k] = smaller(least[k], line[start + k]);
+    return *std::min_element(least.begin(), least.end());
+}
+
 // The loops over cells. They go over four rows at a time, which halves what has to be loaded and stored.
 
 using Row = double* __restrict;
@@ -73,17 +82,26 @@ ReducedCosts::ReducedCosts(const CellTable<double>& cost, int rows, int cols)
       cells_(static_cast<std::size_t>(rows) + 1 + spareRows) {
     for (Line& each : cells_) each.fill(noCost);
     if (cols == 0) return;
+    measure(cost);
     for (int i = 1; i <= rows; ++i) takeRow(i, cost.row(i).subspan(1, static_cast<std::size_t>(cols)));
     reduceColumns();
     checkRange();
     for (int i = 1; i <= rows; ++i) findZeros(i);
 }
 
+void ReducedCosts::measure(const CellTable<double>& cost) {
+    double largest = 0;
+    for (int i = 1; i <= rows_; ++i)
+        for (const double each : cost.row(i).subspan(1, static_cast<std::size_t>(cols_)))
+            largest = std::max(largest, std::abs(each));
+    large_ = largest > safeCost;
+}
+
 void ReducedCosts::takeRow(int row, std::span<const double> cost) {
-    const auto [least, most] = std::minmax_element(cost.begin(), cost.end());
-    large_ |= std::max(std::abs(*least), std::abs(*most)) > safeCost;
     Line& reduced = line(row);
-    for (std::size_t j = 0; j < cost.size(); ++j) reduced[j + 1] = cost[j] - *least;
+    std::copy(cost.begin(), cost.end(), reduced.begin() + 1);
+    const double least = leastOf(reduced);
+    for (double& each : reduced) each -= least;
 }
 
 void ReducedCosts::reduceColumns() {

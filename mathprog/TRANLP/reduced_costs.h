@@ -48,6 +48,7 @@ class ReducedCosts {
 
     template <class Work>
     void inFours(const IndexSet& rows, Work work);
+    void measure(const CellTable<double>& cost);
     void takeRow(int row, std::span<const double> cost);
     void reduceColumns();
     void findZeros(int row);
