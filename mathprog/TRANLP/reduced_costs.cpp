@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
+#include <numeric>
 
 #include "shell/base/arithmetic.h"
 
@@ -26,13 +28,14 @@ double smaller(double a, double b) {
     return b < a ? b : a;
 }
 
-/// The least value of a row of fixed length, by eight at a time.
-template <class Line> double leastOf(const Line& line) {
-    std::array<double, 8> least;
-    least.fill(noCost);
-    for (std::size_t start = 0; start < line.size(); start += least.size())
-        for (std::size_t k = 0; k < least.size(); ++k) least[k] = smaller(least[k], line[start + k]);
-    return *std::min_element(least.begin(), least.end());
+/// One value out of a row of fixed length, by eight at a time; `join` is indifferent to the order.
+template <class Line, class Join>
+double joined(const Line& line, double start, Join join) {
+    std::array<double, 8> lanes;
+    lanes.fill(start);
+    for (std::size_t at = 0; at < line.size(); at += lanes.size())
+        for (std::size_t k = 0; k < lanes.size(); ++k) lanes[k] = join(lanes[k], line[at + k]);
+    return std::accumulate(lanes.begin(), lanes.end(), start, join);
 }
 
 // The loops over cells. They go over four rows at a time, which halves what has to be loaded and stored.
@@ -100,7 +103,7 @@ void ReducedCosts::measure(const CellTable<double>& cost) {
 void ReducedCosts::takeRow(int row, std::span<const double> cost) {
     Line& reduced = line(row);
     std::copy(cost.begin(), cost.end(), reduced.begin() + 1);
-    const double least = leastOf(reduced);
+    const double least = joined(reduced, noCost, smaller);
     for (double& each : reduced) each -= least;
 }
 
@@ -165,9 +168,7 @@ IndexSet ReducedCosts::takeOffLeast(double delta, const IndexSet& cols) {
 long long ReducedCosts::lowerRows(double delta, const IndexSet& rows) {
     Line zeros{};
     inFours(rows, [&](Row a, Row b, Row c, Row d) { lower(delta, rise_.data(), zeros.data(), a, b, c, d); });
-    double count = 0;
-    for (const double each : zeros) count += each;
-    return static_cast<long long>(count);
+    return static_cast<long long>(joined(zeros, 0, std::plus()));
 }
 
 /// Rows that keep their duals: their cells in `cols` rise above 0.

@@ -87,13 +87,13 @@ TEST(Labelling, GivesThePlainLoopsResultOnManySmallProblems) {
     }
 }
 
-/// Costs of very different size: small ones are lost in rounding when a large one is taken off and put back.
+/// Costs between neighbours are so small that they are lost when a whole one is taken off and put back.
 TEST(Labelling, GivesThePlainLoopsResultWhereSmallCostsAreLost) {
-    for (unsigned seed = 1; seed <= 400; ++seed) {
-        Problem problem = randomProblem(12, 14, Costs::Fractional, allBalances[seed % 3], seed);
+    for (unsigned seed = 1; seed <= 2000; ++seed) {
+        Problem problem = randomProblem(12, 14, Costs::Few, allBalances[seed % 3], seed);
         for (int i = 1; i <= 12; ++i)
             for (int j = 1; j <= 14; ++j)
-                problem.cost(i, j) = std::ldexp(problem.cost(i, j), (i * 37 + j * 91) % 131 - 65);
+                if (i / 4 == j / 4) problem.cost(i, j) = std::ldexp(problem.cost(i, j), -56);
         ASSERT_EQ(difference(problem), "") << "seed " << seed;
     }
 }

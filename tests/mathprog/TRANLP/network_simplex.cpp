@@ -18,10 +18,10 @@ double networkSimplexCost(const tranlp::Tableau& tableau) {
     std::vector<Graph::Node> rows, cols;
     for (int i = 1; i <= tableau.rows; ++i) supply[rows.emplace_back(graph.addNode())] = tableau.unitsLeft(i);
     for (int j = 1; j <= tableau.cols; ++j) supply[cols.emplace_back(graph.addNode())] = -tableau.needLeft(j);
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        for (std::size_t j = 0; j < cols.size(); ++j)
-            cost[graph.addArc(rows[i], cols[j])] =
-                tableau.reduced(static_cast<int>(i) + 1, static_cast<int>(j) + 1);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto costs = tableau.reduced.row(static_cast<int>(i) + 1);
+        for (std::size_t j = 0; j < cols.size(); ++j) cost[graph.addArc(rows[i], cols[j])] = costs[j + 1];
+    }
     lemon::NetworkSimplex<Graph, std::int64_t, double> simplex(graph);
     simplex.costMap(cost).supplyMap(supply);
     if (simplex.run() != lemon::NetworkSimplex<Graph, std::int64_t, double>::OPTIMAL)
