@@ -26,9 +26,10 @@ namespace vantore::tranlp {
 /// some, so it is reached after at most N changes. Only without any column can a row keep its units (there
 /// the sum of supplies is 0, some of them negative): the method ends there, too.
 ///
-/// Time: at most one pass over the cells for each change of duals, a few machine words for each label. There
-/// are as many passes as augmentations and changes together.
-/// Source: Ford and Fulkerson, "Solving the transportation problem", Management Science 3 (1956).
+/// Time: one pass over the cells for each change of duals, a few machine words for each label. There
+/// are as many passes as augmentations and changes together; augmentations at most as many as units, in
+/// practice about as many as rows and columns. Source: Ford and Fulkerson, "Solving the transportation
+/// problem", Management Science 3 (1956).
 
 /// A balanced problem, worked on in place. Indices 1..rows and 1..cols; nothing else is touched.
 struct Tableau {
