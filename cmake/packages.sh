@@ -26,11 +26,13 @@ install_missing() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
 }
 
-# Configures and builds a preset; further arguments go to the build.
+# Configures and builds a preset, with or without the tests (ON or OFF); further arguments go to the build.
 build_preset() {
     preset=$1
-    shift
-    cmake --preset "$preset" >"build-$preset.log" 2>&1 || { cat "build-$preset.log"; return 1; }
-    rm -f "build-$preset.log"
+    tests=$2
+    shift 2
+    log=$(mktemp)
+    cmake --preset "$preset" -DVANTORE_TESTS="$tests" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
+    rm -f "$log"
     cmake --build --preset "$preset" "$@"
 }

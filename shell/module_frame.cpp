@@ -124,7 +124,7 @@ void ModuleFrame::showView(View view) {
     view_ = view;
     for (const Seen& seen : seen_)
         seen.control->visible = std::find(seen.views.begin(), seen.views.end(), view) != seen.views.end();
-    const bool outcome = view == View::Report || view == View::Plot;
+    const bool outcome = view != View::Start && view != View::Data;
     if (outcome && cmdContinue != nullptr) focus = cmdContinue;
     if (view == View::Data && mainGrid_ != nullptr) focus = mainGrid_;
 }
@@ -148,7 +148,7 @@ void ModuleFrame::run(const Control& control, const std::function<void()>& handl
 
 void ModuleFrame::reportRuntimeError(const std::string& errorText, const std::string& place) {
     suite_.messageBx(errorText + place, names_.name);
-    const bool outcome = view_ == View::Report || view_ == View::Plot;
+    const bool outcome = view_ != View::Start && view_ != View::Data;
     if (outcome && cmdContinue != nullptr) cmdContinue->visible = true;
 }
 

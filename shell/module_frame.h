@@ -42,7 +42,8 @@ struct ReportStyle {
 /// used; no other place catches one.
 class ModuleFrame : public Form {
   public:
-    enum class View { Start, Data, Report, Plot };
+    /// Result is what some modules show between the data and the report.
+    enum class View { Start, Data, Result, Report, Plot };
 
     ModuleFrame(Suite& suite, ModuleNames names);
 

@@ -7,6 +7,7 @@
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
 #include "mathprog/LNPROG/Lnprog.h"
+#include "mathprog/TRANLP/TRANLP.h"
 
 namespace vantore {
 
@@ -24,6 +25,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<forecast::FORECAST>("FORECAST"),
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
+        entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<mulreg::MULREG>("MULREG"),
     };

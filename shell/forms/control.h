@@ -119,6 +119,15 @@ class Label : public Control {
     Alignment alignment = Alignment::Left;
 };
 
+class DataGrid;
+
+/// A cell of a grid.
+struct CellPlace {
+    DataGrid* grid = nullptr;
+    int row = 0;
+    int col = 0;
+};
+
 class TextBox : public Control {
   public:
     using Control::Control;
@@ -132,6 +141,9 @@ class TextBox : public Control {
 
     std::function<void()> onChange;
     std::function<void()> onLeave; ///< The focus moves away.
+
+    /// The cell whose text the box shows, where it shows one: what a user types goes into the cell.
+    std::optional<CellPlace> cell;
 
   private:
     std::string text_;

@@ -62,7 +62,10 @@ void Form::type(TextBox& box, std::string text) {
     if (!accepts(box)) return;
     const std::string before = box.text();
     run(box, [&] { box.setText(std::move(text)); });
-    history_.record({.box = &box, .before = before, .after = box.text()});
+    if (!box.cell) return history_.record({.box = &box, .before = before, .after = box.text()});
+    const auto [grid, row, col] = *box.cell;
+    grid->setCell(row, col, box.text());
+    history_.record({.grid = grid, .row = row, .col = col, .before = before, .after = box.text()});
 }
 
 void Form::leave(TextBox& box) {

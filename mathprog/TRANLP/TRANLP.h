@@ -1,0 +1,69 @@
+#pragma once
+
+#include <optional>
+
+#include "mathprog/TRANLP/method.h"
+#include "mathprog/TRANLP/problem.h"
+#include "mathprog/TRANLP/report.h"
+#include "shell/module_frame.h"
+
+namespace vantore::tranlp {
+
+/// The transportation method: a matrix of unit costs with supplies in its last column and demands in its last
+/// row, and the cheapest plan in a grid of the same shape.
+class TRANLP : public ModuleFrame {
+  public:
+    explicit TRANLP(Suite& suite);
+
+  protected:
+    std::string defaultSkeleton() const override { return skeleton(); }
+    void readProblem(ItemReader& reader) override;
+    void writeProblem(ItemWriter& writer) override;
+    void fillBlankCells() override;
+
+  private:
+    void addSizeBoxes();
+    void addLabelBoxes();
+    void addGrids();
+    void addDataButtons();
+    void addResultButtons();
+
+    int sources() const { return Grid->rows() - 2; }
+    int sinks() const { return Grid->cols() - 2; }
+
+    void resize(TextBox& box, const char* excess);
+    void shapeGrid(int newSources, int newSinks);
+    void clearGrid();
+    void showSizes();
+    void showLabels();
+    void addSourceRow(bool asks);
+    int insertPosition(bool asks);
+    void renumberNames(int from);
+
+    void putInCells(const ProblemFile& file);
+    Problem readControls() const;
+
+    void solve();
+    void showPlan();
+    void showReport();
+    void printData();
+
+    TextBox* txtProbLabel = nullptr;
+    TextBox* txtRows = nullptr;
+    TextBox* txtCols = nullptr;
+    TextBox* txtRowLabel = nullptr;
+    TextBox* txtColLabel = nullptr;
+    DataGrid* Grid = nullptr;
+    DataGrid* GridOut = nullptr;
+    TextBox* txtTotalCost = nullptr;
+
+    /// A solved problem and its plan.
+    struct Solution {
+        Problem problem;
+        Plan plan;
+    };
+    std::optional<Solution> solution_;
+    bool showsSizes_ = false; // the size boxes follow the grid, not the grid the boxes
+};
+
+} // namespace vantore::tranlp
