@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "location/COG/COG.h"
+#include "mathprog/MIPROG/MIPROG.h"
 
 namespace vantore {
 
@@ -18,6 +19,7 @@ ModuleEntry entry(const char* caption) {
 std::vector<ModuleEntry> moduleList() {
     return {
         entry<cog::COG>("COG"),
+        entry<miprog::MIPROG>("MIPROG"),
     };
 }
 

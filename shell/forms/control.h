@@ -36,6 +36,7 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
+class DataGrid;
 class Frame;
 class TabControl;
 
@@ -132,6 +133,7 @@ class TextBox : public Control {
 
     std::function<void()> onChange;
     std::function<void()> onLeave; ///< The focus moves away.
+    DataGrid* labels = nullptr;    ///< The grid whose selected row or column the text is the heading of.
 
   private:
     std::string text_;

@@ -7,10 +7,11 @@ namespace vantore {
 namespace {
 
 void put(const Edit& edit, const std::string& text) {
-    if (edit.box != nullptr) edit.box->setText(text);
-    if (edit.grid == nullptr || edit.row >= edit.grid->rows() || edit.col >= edit.grid->cols()) return;
-    edit.grid->setCell(edit.row, edit.col, text);
+    if (edit.grid == nullptr) return edit.box->setText(text);
+    if (edit.row >= edit.grid->rows() || edit.col >= edit.grid->cols()) return;
+    if (edit.box == nullptr) edit.grid->setCell(edit.row, edit.col, text);
     edit.grid->setCurrent(edit.row, edit.col);
+    if (edit.box != nullptr) edit.box->setText(text);
 }
 
 } // namespace

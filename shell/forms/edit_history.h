@@ -8,7 +8,8 @@
 
 namespace vantore {
 
-/// One change that a user made to a text box (row and col 0) or to a cell.
+/// One change that a user made to a text box or to a cell. In a box that labels a grid the cell is the one
+/// that was current.
 struct Edit {
     TextBox* box = nullptr;
     DataGrid* grid = nullptr;

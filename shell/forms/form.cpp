@@ -60,9 +60,14 @@ void Form::press(Control& control) {
 
 void Form::type(TextBox& box, std::string text) {
     if (!accepts(box)) return;
-    const std::string before = box.text();
+    Edit edit{.box = &box, .grid = box.labels, .before = box.text(), .after = {}};
+    if (box.labels != nullptr) {
+        edit.row = box.labels->row();
+        edit.col = box.labels->col();
+    }
     run(box, [&] { box.setText(std::move(text)); });
-    history_.record({.box = &box, .before = before, .after = box.text()});
+    edit.after = box.text();
+    history_.record(edit);
 }
 
 void Form::leave(TextBox& box) {
@@ -77,9 +82,12 @@ void Form::select(DataGrid& grid, const CellBlock& block) {
 void Form::click(DataGrid& grid, int row, int col) {
     if (!accepts(grid)) return;
     select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    const std::string before = grid.cell(row, col);
     run(grid, [&] {
         if (grid.onCellClick) grid.onCellClick(row, col);
     });
+    if (row >= grid.rows() || col >= grid.cols()) return;
+    history_.record({.grid = &grid, .row = row, .col = col, .before = before, .after = grid.cell(row, col)});
 }
 
 void Form::doubleClick(DataGrid& grid) {
