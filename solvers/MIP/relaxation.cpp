@@ -17,6 +17,7 @@ using miprog::SolverInput;
 namespace {
 
 constexpr double strictTolerance = 1E-09;
+constexpr double explainingSeconds = 2;
 
 /// Ends the simplex method when the search is to stop.
 class StopHandler : public ClpEventHandler {
@@ -77,6 +78,19 @@ Relaxation relaxationOf(const ClpSimplex& simplex, double sign) {
 
 using Ray = std::unique_ptr<double[]>;
 
+/// Without an objective the dual simplex is ready to go at once, and ends with the multipliers that prove the
+/// conflict.
+std::vector<int> conflictIn(const SolverInput& input, LinearModel model) {
+    std::fill(model.objective.begin(), model.objective.end(), 0.0);
+    ClpSimplex simplex;
+    load(simplex, model);
+    prepare(simplex, explainingSeconds, Care::Usual);
+    simplex.dual();
+    const Ray ray(simplex.infeasibilityRay());
+    if (!ray) return {};
+    return provenConflict(input, {ray.get(), ray.get() + input.m});
+}
+
 } // namespace
 
 LinearResult solveRelaxation(const SolverInput& input, double seconds, Care care, const Progress& progress) {
@@ -91,9 +105,7 @@ LinearResult solveRelaxation(const SolverInput& input, double seconds, Care care
     result.status = statusOf(simplex);
     result.iterations = simplex.numberIterations();
     if (result.status == LinearStatus::Optimal) result.relaxation = relaxationOf(simplex, modelSign(input));
-    if (result.status == LinearStatus::Infeasible)
-        if (const Ray ray(simplex.infeasibilityRay()); ray)
-            result.conflict = provenConflict(input, {ray.get(), ray.get() + input.m});
+    if (result.status == LinearStatus::Infeasible) result.conflict = conflictIn(input, model);
     if (result.status == LinearStatus::Unbounded)
         if (const Ray ray(simplex.unboundedRay()); ray)
             result.unlimited = provenRay(input, {ray.get(), ray.get() + input.n});

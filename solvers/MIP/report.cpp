@@ -91,10 +91,9 @@ std::string statusText(const Outcome& outcome, const Limits& limits) {
 
 void listPlaces(PrintLines& page, const std::string& lead, const std::vector<int>& places) {
     if (places.empty()) return;
-    std::string text = lead;
-    for (const int place : places)
-        text.append(&place == &places.front() ? " " : ", ").append(std::to_string(place));
-    wrap(page, text + ".");
+    std::string text;
+    for (const int place : places) text.append(text.empty() ? " " : ", ").append(std::to_string(place));
+    wrap(page, lead + text + ".");
 }
 
 void printStatus(PrintLines& page, const Outcome& outcome, const Limits& limits) {
@@ -187,7 +186,8 @@ void printConstraints(PrintLines& page, const SolverInput& input, const Outcome&
 void printRelaxation(PrintLines& page, const SolverInput& input, const Outcome& outcome) {
     if (!outcome.relaxation) return;
     page.line("").line("CONTINUOUS RELAXATION");
-    summaryLine(page, "Objective value", columnText(outcome.relaxation->objective, numberWidth));
+    summaryLine(page, "Objective value of the relaxation",
+                columnText(outcome.relaxation->objective, numberWidth));
     wrap(page, input.intCount() == 0 ? "There are no integer variables: the relaxation is the problem itself."
                                      : "This is the optimum when the integer variables may have fractions.");
     if (outcome.solution)
@@ -232,8 +232,8 @@ PrintLines report(const SolverInput& input, const Outcome& outcome, const Limits
     printStatus(page, outcome, limits);
     printSummary(page, input, outcome);
     if (outcome.solution) {
-        printVariables(page, input, outcome);
-        printConstraints(page, input, outcome);
+        if (input.n > 0) printVariables(page, input, outcome);
+        if (input.m > 0) printConstraints(page, input, outcome);
     }
     printRelaxation(page, input, outcome);
     printSearch(page, outcome, limits);

@@ -10,6 +10,7 @@
 
 #include "solvers/MIP/check.h"
 #include "solvers/MIP/linear_model.h"
+#include "solvers/MIP/tightening.h"
 
 namespace vantore::mip {
 
@@ -17,7 +18,6 @@ using miprog::SolverInput;
 
 namespace {
 
-constexpr double usualIntegerTolerance = 1E-06;
 constexpr double strictTolerance = 1E-09;
 
 // CBC's settings for branching on several candidates before it trusts its estimates.
@@ -67,7 +67,7 @@ class Watcher : public CbcEventHandler {
 };
 
 OsiClpSolverInterface interfaceFor(const SolverInput& input, const SearchTask& task) {
-    LinearModel model = linearModel(input);
+    LinearModel model = linearModel(tightened(input));
     if (task.anySolution) std::fill(model.objective.begin(), model.objective.end(), 0.0);
     OsiClpSolverInterface solver;
     solver.messageHandler()->setLogLevel(0);
@@ -87,8 +87,10 @@ void prepare(CbcModel& model, const SearchTask& task) {
     model.setMaximumSeconds(std::max(task.limits.seconds, 0.0));
     model.setMaximumNodes(task.limits.nodes);
     if (task.anySolution) model.setMaximumSolutions(1);
-    model.setIntegerTolerance(task.care == Care::Strict ? strictTolerance : usualIntegerTolerance);
+    model.setIntegerTolerance(integerTolerance);
     model.setAllowableGap(0);
+    // Strict is plain branch and bound: no cut that rounding could have made wrong.
+    if (task.care == Care::Strict) return;
     CbcStrategyDefault strategy(1, strongCandidates, trustedBranchings, 0);
     model.setStrategy(strategy);
 }

@@ -13,6 +13,9 @@ namespace vantore::mip {
 
 enum class SearchEnd { Optimal, Infeasible, TimeLimit, NodeLimit, Interrupted, Failed };
 
+/// What an integer variable may be off a whole number and count as one.
+constexpr double integerTolerance = 1E-09;
+
 struct SearchResult {
     SearchEnd end = SearchEnd::Failed;
     std::vector<double>

@@ -11,6 +11,7 @@
 #include "solvers/MIP/check.h"
 #include "solvers/MIP/relaxation.h"
 #include "solvers/MIP/search.h"
+#include "solvers/MIP/tightening.h"
 
 namespace vantore::mip {
 
@@ -92,9 +93,12 @@ class Run {
         progress_.update([&](Outcome& outcome) { outcome.unlimited = linear.unlimited; });
         if (input_.intCount() == 0) return end(Status::Unbounded);
         const SearchResult any = searchOnce(Care::Usual, true);
+        const bool solvable = takeSolution(any).empty() && progress_.outcome().solution;
+        // Any solution will do here, and none is worth reporting.
+        progress_.update([](Outcome& outcome) { outcome.solution.reset(); });
+        if (solvable) return end(Status::Unbounded);
         const std::string unbounded = "Without the integer requirements the problem is unbounded.";
         switch (any.end) {
-        case SearchEnd::Optimal: return end(Status::Unbounded);
         case SearchEnd::Infeasible: return end(Status::Infeasible, unbounded);
         default: return end(statusOf(any.end), unbounded);
         }
@@ -132,28 +136,33 @@ class Run {
 
     /// Takes over what a search has found. False when the check doesn't bear out what the search claims.
     bool conclude(const SearchResult& result) {
-        const std::string fault = takeSolution(result);
-        const Outcome outcome = progress_.outcome();
+        fault_ = takeSolution(result);
         switch (result.end) {
         case SearchEnd::Optimal:
-            if (!outcome.solution || !reaches(*outcome.solution, result.objective)) {
-                fault_ = fault;
-                endUnproved();
-                return false;
-            }
-            progress_.update([](Outcome& o) { o.bound = o.solution->objective; });
-            end(Status::Optimal);
-            return true;
         case SearchEnd::Infeasible:
-            if (outcome.solution) {
-                endUnproved();
-                return false;
-            }
+            if (!provenBy(result)) break;
+            if (result.end == SearchEnd::Optimal) return endOptimal();
             end(Status::Infeasible, "There are solutions when the integer variables may have fractions.");
             return true;
-        case SearchEnd::Failed: endUnproved(); return false;
+        case SearchEnd::Failed: break;
         default: end(statusOf(result.end)); return true;
         }
+        endUnproved();
+        return false;
+    }
+
+    /// The checked solutions agree with the search, and its arithmetic could tell a fraction from none.
+    bool provenBy(const SearchResult& result) const {
+        const Outcome outcome = progress_.outcome();
+        if (outcome.solution.has_value() != (result.end == SearchEnd::Optimal)) return false;
+        if (outcome.solution && !reaches(*outcome.solution, result.objective)) return false;
+        return !hidesFractions(tightened(input_), integerTolerance);
+    }
+
+    bool endOptimal() {
+        progress_.update([](Outcome& outcome) { outcome.bound = outcome.solution->objective; });
+        end(Status::Optimal);
+        return true;
     }
 
     /// Checks the search's solution, the continuous variables fitted to the rounded integer ones, and keeps
@@ -177,8 +186,11 @@ class Run {
         // A bound that the check doesn't bear out is none.
         progress_.update([](Outcome& outcome) { outcome.bound.reset(); });
         if (progress_.outcome().solution) return end(Status::Unproved);
-        end(Status::NotSolved, fault_.empty() ? "The search could not go on with the numbers of this problem."
-                                              : failedCheck(fault_));
+        end(Status::NotSolved,
+            fault_.empty()
+                ? "No solution was found, but the numbers of this problem are so far apart in size that "
+                  "this proves nothing. Rescaling the problem may help."
+                : failedCheck(fault_));
     }
 
     static std::string failedCheck(const std::string& fault) {
