@@ -61,10 +61,10 @@ std::optional<Sum> mostOfRightSides(const SolverInput& input, const std::vector<
 /// The least that the same sum can be within the bounds; nothing when it has no least value.
 std::optional<Sum> leastOfLeftSides(const SolverInput& input, const std::vector<double>& multipliers) {
     Sum least;
+    const std::vector<int> rows = placesOfOthersThan0(multipliers);
     for (int j = 1; j <= input.n; ++j) {
         Sum factor;
-        for (int i = 1; i <= input.m; ++i)
-            factor.add(multipliers[static_cast<std::size_t>(i - 1)] * input.coef(i, j));
+        for (const int i : rows) factor.add(multipliers[static_cast<std::size_t>(i - 1)] * input.coef(i, j));
         if (factor.isZero()) continue;
         const double bound = factor.value > 0 ? input.bounds(j).lower : input.bounds(j).upper;
         if (std::abs(bound) >= largestNumber) return std::nullopt;
@@ -109,6 +109,17 @@ std::vector<int> provenConflict(const SolverInput& input, std::vector<double> mu
     for (double& multiplier : negatives) multiplier = -multiplier;
     const bool proven = contradicts(input, multipliers) || contradicts(input, negatives);
     return proven ? placesOfOthersThan0(multipliers) : std::vector<int>();
+}
+
+std::vector<int> conflictInOneRow(const SolverInput& input) {
+    std::vector<double> multipliers(static_cast<std::size_t>(input.m), 0);
+    for (int i = 1; i <= input.m; ++i) {
+        double& own = multipliers[static_cast<std::size_t>(i - 1)];
+        for (own = -1; own <= 1; own += 2)
+            if (contradicts(input, multipliers)) return {i};
+        own = 0;
+    }
+    return {};
 }
 
 std::vector<int> provenRay(const SolverInput& input, std::vector<double> ray) {

@@ -15,6 +15,10 @@ namespace vantore::mip {
 /// Source: Farkas, "Theorie der einfachen Ungleichungen" (1902).
 std::vector<int> provenConflict(const miprog::SolverInput& input, std::vector<double> multipliers);
 
+/// The first constraint that can't be satisfied within the variables' bounds, all others left out; none where
+/// each can be.
+std::vector<int> conflictInOneRow(const miprog::SolverInput& input);
+
 /// The variables (from 1) with a direction other than 0, when every constraint and bound allows to go on in
 /// this direction for ever and the objective improves all the way. `ray` has variable j at j - 1.
 std::vector<int> provenRay(const miprog::SolverInput& input, std::vector<double> ray);

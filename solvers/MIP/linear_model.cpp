@@ -26,6 +26,16 @@ CoinPackedMatrix matrixOf(const SolverInput& input) {
     return matrix;
 }
 
+void addPlaceholders(const SolverInput& input, LinearModel& model) {
+    const double one = 1;
+    model.matrix = CoinPackedMatrix(true, &input.m, &input.n, &one, 1);
+    model.columnLower.push_back(0);
+    model.columnUpper.push_back(0);
+    model.objective.push_back(0);
+    model.rowLower.push_back(0);
+    model.rowUpper.push_back(0);
+}
+
 } // namespace
 
 LinearModel linearModel(const SolverInput& input) {
@@ -41,6 +51,7 @@ LinearModel linearModel(const SolverInput& input) {
         model.rowLower.push_back(input.rowSense(i) > 0 ? -COIN_DBL_MAX : input.rhs(i));
         model.rowUpper.push_back(input.rowSense(i) < 0 ? COIN_DBL_MAX : input.rhs(i));
     }
+    if (model.matrix.getNumElements() == 0) addPlaceholders(input, model);
     return model;
 }
 

@@ -8,7 +8,8 @@
 namespace vantore::mip {
 
 /// The problem without its integer requirements, always minimised, as the libraries take it: indices from 0,
-/// no bound as COIN_DBL_MAX.
+/// no bound as COIN_DBL_MAX. The libraries refuse a matrix without any coefficient: such a problem gets a
+/// column that is 0 and a row about it at the end.
 struct LinearModel {
     CoinPackedMatrix matrix;
     std::vector<double> columnLower, columnUpper, objective;

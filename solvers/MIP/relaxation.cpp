@@ -17,7 +17,6 @@ using miprog::SolverInput;
 namespace {
 
 constexpr double strictTolerance = 1E-09;
-constexpr double explainingSeconds = 2;
 
 /// Ends the simplex method when the search is to stop.
 class StopHandler : public ClpEventHandler {
@@ -47,20 +46,10 @@ void prepare(ClpSimplex& simplex, double seconds, Care care) {
     simplex.setDualTolerance(strictTolerance);
 }
 
-/// The dual simplex proves what is infeasible, the primal one what is unbounded; each takes what the other
-/// leaves open.
-void run(ClpSimplex& simplex) {
-    simplex.dual();
-    const bool settled = simplex.isProvenOptimal() || simplex.isProvenPrimalInfeasible();
-    if (!settled && simplex.status() != 3 && simplex.status() != 5) simplex.primal();
-}
-
-LinearStatus statusOf(const ClpSimplex& simplex) {
-    if (simplex.isProvenOptimal()) return LinearStatus::Optimal;
-    if (simplex.isProvenPrimalInfeasible()) return LinearStatus::Infeasible;
-    if (simplex.isProvenDualInfeasible()) return LinearStatus::Unbounded;
-    // 3: at a limit, 5: by the event handler
-    return simplex.status() == 3 || simplex.status() == 5 ? LinearStatus::Stopped : LinearStatus::Failed;
+bool stopped(const ClpSimplex& simplex) {
+    constexpr int atLimit = 3;
+    constexpr int byHandler = 5;
+    return simplex.status() == atLimit || simplex.status() == byHandler;
 }
 
 std::vector<double> scaled(const double* values, int count, double factor) {
@@ -69,47 +58,77 @@ std::vector<double> scaled(const double* values, int count, double factor) {
     return result;
 }
 
-Relaxation relaxationOf(const ClpSimplex& simplex, double sign) {
-    return {sign * simplex.objectiveValue(),
-            scaled(simplex.primalColumnSolution(), simplex.numberColumns(), 1),
-            scaled(simplex.dualColumnSolution(), simplex.numberColumns(), sign),
-            scaled(simplex.dualRowSolution(), simplex.numberRows(), sign)};
+Relaxation relaxationOf(const SolverInput& input, const ClpSimplex& simplex) {
+    const double sign = modelSign(input);
+    return {sign * simplex.objectiveValue(), scaled(simplex.primalColumnSolution(), input.n, 1),
+            scaled(simplex.dualColumnSolution(), input.n, sign),
+            scaled(simplex.dualRowSolution(), input.m, sign)};
 }
 
 using Ray = std::unique_ptr<double[]>;
 
-/// Without an objective the dual simplex is ready to go at once, and ends with the multipliers that prove the
-/// conflict.
-std::vector<int> conflictIn(const SolverInput& input, LinearModel model) {
-    std::fill(model.objective.begin(), model.objective.end(), 0.0);
-    ClpSimplex simplex;
-    load(simplex, model);
-    prepare(simplex, explainingSeconds, Care::Usual);
-    simplex.dual();
-    const Ray ray(simplex.infeasibilityRay());
-    if (!ray) return {};
-    return provenConflict(input, {ray.get(), ray.get() + input.m});
-}
+/// One linear program, solved in the ways that lead to a proof of what it is.
+class LinearRun {
+  public:
+    LinearRun(const SolverInput& input, double seconds, Care care, const Progress& progress)
+        : input_(input), model_(linearModel(input)), handler_(progress) {
+        load(simplex_, model_);
+        prepare(simplex_, seconds, care);
+        simplex_.passInEventHandler(&handler_);
+    }
+
+    /// The dual simplex is the fastest, but takes some unbounded problems for infeasible ones. What it
+    /// doesn't solve is done in two phases: a feasible solution, and on from there.
+    LinearResult result() {
+        simplex_.dual();
+        if (!simplex_.isProvenOptimal() && !stopped(simplex_)) {
+            findFeasible();
+            if (simplex_.isProvenOptimal()) improve();
+        }
+        result_.iterations = simplex_.numberIterations();
+        if (stopped(simplex_)) result_.status = LinearStatus::Stopped;
+        if (simplex_.isProvenOptimal()) {
+            result_.status = LinearStatus::Optimal;
+            result_.relaxation = relaxationOf(input_, simplex_);
+        }
+        return result_;
+    }
+
+  private:
+    /// Without an objective every basis is dual feasible: the dual simplex either ends at a feasible solution
+    /// or with multipliers that prove that there is none.
+    void findFeasible() {
+        const std::vector<double> none(model_.objective.size(), 0);
+        simplex_.chgObjCoefficients(none.data());
+        simplex_.allSlackBasis(true);
+        simplex_.dual();
+        if (!simplex_.isProvenPrimalInfeasible()) return;
+        const Ray ray(simplex_.infeasibilityRay());
+        result_.conflict =
+            ray ? provenConflict(input_, {ray.get(), ray.get() + input_.m}) : conflictInOneRow(input_);
+        if (!result_.conflict.empty()) result_.status = LinearStatus::Infeasible;
+    }
+
+    void improve() {
+        simplex_.chgObjCoefficients(model_.objective.data());
+        simplex_.primal();
+        if (!simplex_.isProvenDualInfeasible()) return;
+        if (const Ray ray(simplex_.unboundedRay()); ray)
+            result_.unlimited = provenRay(input_, {ray.get(), ray.get() + input_.n});
+        if (!result_.unlimited.empty()) result_.status = LinearStatus::Unbounded;
+    }
+
+    const SolverInput& input_;
+    LinearModel model_;
+    StopHandler handler_;
+    ClpSimplex simplex_;
+    LinearResult result_;
+};
 
 } // namespace
 
 LinearResult solveRelaxation(const SolverInput& input, double seconds, Care care, const Progress& progress) {
-    const LinearModel model = linearModel(input);
-    ClpSimplex simplex;
-    load(simplex, model);
-    prepare(simplex, seconds, care);
-    const StopHandler handler(progress);
-    simplex.passInEventHandler(&handler);
-    run(simplex);
-    LinearResult result;
-    result.status = statusOf(simplex);
-    result.iterations = simplex.numberIterations();
-    if (result.status == LinearStatus::Optimal) result.relaxation = relaxationOf(simplex, modelSign(input));
-    if (result.status == LinearStatus::Infeasible) result.conflict = conflictIn(input, model);
-    if (result.status == LinearStatus::Unbounded)
-        if (const Ray ray(simplex.unboundedRay()); ray)
-            result.unlimited = provenRay(input, {ray.get(), ray.get() + input.n});
-    return result;
+    return LinearRun(input, seconds, care, progress).result();
 }
 
 std::vector<double> withIntegersFixed(const SolverInput& input, std::vector<double> values, double seconds) {
@@ -123,7 +142,7 @@ std::vector<double> withIntegersFixed(const SolverInput& input, std::vector<doub
     ClpSimplex simplex;
     load(simplex, model);
     prepare(simplex, seconds, Care::Strict);
-    run(simplex);
+    simplex.dual();
     if (!simplex.isProvenOptimal()) return values;
     return scaled(simplex.primalColumnSolution(), input.n, 1);
 }

@@ -23,6 +23,7 @@ struct LinearResult {
 enum class Care { Usual, Strict };
 
 /// Solves the problem without its integer requirements by the simplex method, for at most `seconds`.
+/// Infeasible and Unbounded are proved; what can't be proved is Failed.
 LinearResult solveRelaxation(const miprog::SolverInput& input, double seconds, Care care,
                              const Progress& progress);
 
