@@ -14,6 +14,7 @@ using miprog::SolverInput;
 namespace {
 
 constexpr std::size_t numberWidth = 14;
+constexpr std::size_t smallNumberWidth = 10; // five significant digits say enough
 constexpr std::size_t lineWidth = 76;
 constexpr int summaryEnd = 55; // position behind the figures of the summary
 
@@ -215,11 +216,13 @@ void printSearch(PrintLines& page, const Outcome& outcome, const Limits& limits)
 } // namespace
 
 std::string columnText(double value, std::size_t width) {
-    const double size = std::abs(value);
-    if (size == 0) return "0.0000";
+    if (value == 0) return "0.0000";
+    // A small number shows as it is only where four decimals are all that it has.
     constexpr double leastWithDecimals = .01;
-    const bool fewDecimals = size * 10000 == std::nearbyint(size * 10000);
-    if (size < leastWithDecimals && !fewDecimals) return fitted(value, std::min<std::size_t>(width, 10));
+    const double tenThousandths = std::abs(value) * 10000;
+    const bool fewDecimals = std::abs(tenThousandths - std::nearbyint(tenThousandths)) < 1E-09;
+    const bool shows = std::abs(value) >= leastWithDecimals || (fewDecimals && tenThousandths > .5);
+    if (!shows) return fitted(value, std::min(width, smallNumberWidth));
     for (const char* mask : {"###,###,###,##0.0000", "###,###,###,##0.00", "###,###,###,##0"}) {
         const std::string text = format(value, mask);
         if (text.size() <= width) return text;
