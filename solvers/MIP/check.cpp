@@ -76,6 +76,13 @@ std::optional<std::string> oversizedNumber(const SolverInput& input) {
     return std::nullopt;
 }
 
+std::optional<std::string> integerWithoutWholeNumber(const SolverInput& input) {
+    for (const int j : input.intIndex.span())
+        if (std::ceil(input.bounds(j).lower) > std::floor(input.bounds(j).upper))
+            return "No whole number is within the bounds of " + variableText(input, j) + ".";
+    return std::nullopt;
+}
+
 Checked checked(const SolverInput& input, std::vector<double> values) {
     for (const int j : input.intIndex.span()) values[at(j)] = std::nearbyint(values[at(j)]);
     for (int j = 1; j <= input.n; ++j) {
@@ -88,7 +95,8 @@ Checked checked(const SolverInput& input, std::vector<double> values) {
     // A bound between two whole numbers must not make an integer variable fractional.
     for (const int j : input.intIndex.span())
         if (values[at(j)] != std::nearbyint(values[at(j)]))
-            return {std::nullopt, "No whole number is within the bounds of " + variableText(input, j) + "."};
+            return {std::nullopt, "The value " + defaultText(values[at(j)]) + " of " +
+                                      variableText(input, j) + " is no whole number."};
     Solution solution;
     for (int i = 1; i <= input.m; ++i) {
         const LeftSide side = leftSide(input, i, values);

@@ -19,6 +19,10 @@ constexpr double largestNumber = 1E+20;
 /// A sentence that names a coefficient or right-hand side that is too large; nothing when there is none.
 std::optional<std::string> oversizedNumber(const miprog::SolverInput& input);
 
+/// A sentence that names an integer variable that has no whole number within its bounds; nothing when each
+/// has.
+std::optional<std::string> integerWithoutWholeNumber(const miprog::SolverInput& input);
+
 /// A solution that holds, or a sentence that says what doesn't.
 struct Checked {
     std::optional<Solution> solution;

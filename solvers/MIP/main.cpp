@@ -31,7 +31,7 @@ PrintLines solved(const std::filesystem::path& temporaryFile) {
 int main() {
     int status = EXIT_SUCCESS;
     try {
-        mip::takeInterrupts();
+        mip::takeSignals();
         const std::filesystem::path folder = solverIoFolder();
         writeLines(folder / "OUTPUT.Dat", mip::reportBeforehand().lines());
         writeLines(folder / "OUTPUT.Dat", solved(folder / "TEMP.DAT").lines());

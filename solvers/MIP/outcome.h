@@ -35,7 +35,8 @@ enum class Status {
     TimeLimit,
     NodeLimit,
     Interrupted,
-    Unproved, ///< A solution, but the arithmetic does not bear out that it is the best.
+    BrokenDown, ///< The library that searches has failed.
+    Unproved,   ///< A solution, but the arithmetic does not bear out that it is the best.
     NotSolved,
 };
 

@@ -58,7 +58,8 @@ std::string heading(const Outcome& outcome) {
     case Status::Unbounded: return "UNBOUNDED";
     case Status::TimeLimit:
     case Status::NodeLimit:
-    case Status::Interrupted: return "STOPPED";
+    case Status::Interrupted:
+    case Status::BrokenDown: return "STOPPED";
     case Status::Unproved: return "NOT PROVED OPTIMAL";
     case Status::NotSolved: break;
     }
@@ -81,6 +82,7 @@ std::string statusText(const Outcome& outcome, const Limits& limits) {
         return stoppedText(outcome, "its time limit of " + defaultText(limits.seconds) + " seconds");
     case Status::NodeLimit: return stoppedText(outcome, "its limit of " + plural(limits.nodes, "node"));
     case Status::Interrupted: return stoppedText(outcome, "the user");
+    case Status::BrokenDown: return stoppedText(outcome, "a failure of the solver's library");
     case Status::Unproved:
         return "The solution below has been checked, but the numbers of this problem are so far apart in "
                "size "

@@ -27,8 +27,7 @@ constexpr int trustedBranchings = 5;
 /// Looks on at the search: keeps its solutions and its bound, and stops it when that is asked for.
 class Watcher : public CbcEventHandler {
   public:
-    Watcher(const SolverInput& input, const SearchTask& task, Progress& progress)
-        : input_(input), task_(task), progress_(progress) {}
+    Watcher(const SolverInput& input, Progress& progress) : input_(input), progress_(progress) {}
 
     CbcAction event(CbcEvent which) override {
         if (which == solution || which == heuristicSolution) keepSolution();
@@ -62,7 +61,6 @@ class Watcher : public CbcEventHandler {
     }
 
     const SolverInput& input_;
-    const SearchTask& task_;
     Progress& progress_;
 };
 
@@ -111,7 +109,7 @@ SearchEnd endOf(const CbcModel& model, const SearchTask& task, const Progress& p
 SearchResult branchAndCut(const SolverInput& input, const SearchTask& task, Progress& progress) {
     CbcModel model(interfaceFor(input, task));
     prepare(model, task);
-    const Watcher watcher(input, task, progress);
+    const Watcher watcher(input, progress);
     model.passInEventHandler(&watcher);
     model.branchAndBound();
     SearchResult result;

@@ -28,7 +28,8 @@ class Run {
         : input_(input), limits_(limits), progress_(progress) {}
 
     void solve() {
-        if (auto fault = oversizedNumber(input_)) return end(Status::NotSolved, *fault);
+        if (const auto fault = oversizedNumber(input_)) return end(Status::NotSolved, *fault);
+        if (const auto fault = integerWithoutWholeNumber(input_)) return end(Status::Infeasible, *fault);
         const LinearResult linear = relax();
         switch (linear.status) {
         case LinearStatus::Optimal: return input_.intCount() == 0 ? takeRelaxation(linear) : search();

@@ -7,6 +7,7 @@
 #include <ctime>
 #include <memory>
 #include <thread>
+#include <unistd.h>
 
 #include "solvers/MIP/progress.h"
 #include "solvers/MIP/solve.h"
@@ -42,20 +43,38 @@ struct Work {
     std::atomic<bool> done = false;
 };
 
+/// Set in the thread that searches; a crash elsewhere is none of the search's.
+thread_local bool searching = false;
+std::atomic<bool> crashed = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may set it");
+
+/// A thread that has crashed can't go on, but it can wait until the report has been written.
+void holdCrashedSearch(int signal) {
+    if (!searching) {
+        std::signal(signal, SIG_DFL);
+        std::raise(signal);
+        return;
+    }
+    crashed = true;
+    while (true) pause();
+}
+
 Outcome abandoned(const Work& work, bool byHand) {
     Outcome outcome = work.progress.outcome();
     outcome.status = byHand ? Status::Interrupted : Status::TimeLimit;
+    if (crashed) outcome.status = Status::BrokenDown;
     return outcome;
 }
 
 } // namespace
 
-void takeInterrupts() {
+void takeSignals() {
     // Whoever started the program may have had these signals ignored, and ignored ones never arrive.
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     const sigset_t set = interrupts();
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    for (const int crash : {SIGABRT, SIGSEGV, SIGFPE, SIGILL, SIGBUS}) std::signal(crash, holdCrashedSearch);
 }
 
 Outcome supervise(const SolverInput& input, const Limits& limits) {
@@ -66,12 +85,13 @@ Outcome supervise(const SolverInput& input, const Limits& limits) {
     const auto start = Clock::now();
     const auto used = [start] { return std::chrono::duration<double>(Clock::now() - start).count(); };
     std::thread search([work] {
+        searching = true;
         solve(work->input, work->limits, work->progress);
         work->done = true;
     });
     double giveUp = limits.seconds + graceSeconds;
     bool byHand = false;
-    while (!work->done && used() < giveUp) {
+    while (!work->done && !crashed && used() < giveUp) {
         if (!interrupted()) continue;
         byHand = true;
         work->progress.stop();

@@ -76,8 +76,10 @@ class Tightening {
           binary_(static_cast<std::size_t>(input.n), false) {
         for (const int j : input.intIndex.span()) {
             const auto at = static_cast<std::size_t>(j - 1);
+            bounds_[at] = {std::ceil(bounds_[at].lower), std::floor(bounds_[at].upper)};
             binary_[at] = bounds_[at].lower == 0 && bounds_[at].upper == 1;
         }
+        for (const Bounds& bounds : bounds_) ownBounds_.add(bounds);
     }
 
     SolverInput result() {
@@ -87,6 +89,7 @@ class Tightening {
                 if (input_.rowSense(i) <= 0) deriveBounds(rowOf(input_, i, -1));
             }
         SolverInput tight = input_;
+        tight.bounds = ownBounds_;
         tight.coefs = {};
         tight.rhs = {};
         for (int i = 1; i <= input_.m; ++i) {
@@ -163,7 +166,8 @@ class Tightening {
     }
 
     const SolverInput& input_;
-    std::vector<Bounds> bounds_;
+    std::vector<Bounds> bounds_;     // with those that the constraints imply
+    CountedTable<Bounds> ownBounds_; // those of the variables, whole for integer variables
     std::vector<bool> binary_;
     std::vector<Derived> derived_ = std::vector<Derived>(bounds_.size());
 };

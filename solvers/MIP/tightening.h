@@ -4,11 +4,11 @@
 
 namespace vantore::mip {
 
-/// The problem with the same solutions, but with the coefficients of its 0-1 variables no larger than the
-/// other variables of their constraint need: the 10000 of "shipped <= 10000 x open" becomes the most that can
-/// be shipped. A fraction of such a variable then no longer stands for next to nothing, which makes the
-/// search both faster and safer. Source: Savelsbergh, "Preprocessing and probing techniques for mixed integer
-/// programming problems" (1994).
+/// The problem with the same solutions, but with whole bounds for its integer variables and with the
+/// coefficients of its 0-1 variables no larger than the other variables of their constraint need: the 10000
+/// of "shipped <= 10000 x open" becomes the most that can be shipped. A fraction of such a variable then no
+/// longer stands for next to nothing, which makes the search both faster and safer. Source: Savelsbergh,
+/// "Preprocessing and probing techniques for mixed integer programming problems" (1994).
 miprog::SolverInput tightened(const miprog::SolverInput& input);
 
 /// What a fraction of an integer variable that counts as none may stand for, in units of the continuous and

@@ -26,7 +26,8 @@ void solveAndReport(const miprog::SolverInput& input) {
     miprog::SolverInput unnamed = input;
     unnamed.names = {};
     for (int j = 1; j <= input.n; ++j) unnamed.names.add("v");
-    for (const std::string& line : mip::report(unnamed, outcome, tinyLimits).lines())
+    const PrintLines page = mip::report(unnamed, outcome, tinyLimits);
+    for (const std::string& line : page.lines())
         if (line.find("nan") != std::string::npos || line.find("inf") != std::string::npos) std::abort();
 }
 

@@ -58,9 +58,13 @@ TEST(Check, TakesAValueOntoABoundThatItMissesByRounding) {
 }
 
 TEST(Check, FindsNoWholeNumberBetweenFractionalBounds) {
-    const auto input = ProblemText{.objective = {1}, .integers = {1}, .bounds = {Bounds{.9999999, .9999999}}};
-    EXPECT_EQ(checked(input.input(), {.9999999}).fault,
+    auto text = ProblemText{.objective = {1}, .integers = {1}, .bounds = {Bounds{.9999999, .9999999}}};
+    EXPECT_EQ(checked(text.input(), {.9999999}).fault,
+              "The value .9999999 of variable 1 (v1) is no whole number.");
+    EXPECT_EQ(integerWithoutWholeNumber(text.input()),
               "No whole number is within the bounds of variable 1 (v1).");
+    text.bounds = {Bounds{.5, 1.5}};
+    EXPECT_FALSE(integerWithoutWholeNumber(text.input()));
 }
 
 TEST(Check, MeasuresAConstraintByItsLargestTerm) {

@@ -155,6 +155,16 @@ TEST(Solve, KeepsBoundsOtherThanTheUsualOnes) {
     EXPECT_EQ(outcome.solution->values, (Values{8, -18}));
 }
 
+TEST(Solve, RoundsTheBoundsOfIntegerVariablesInwards) {
+    auto text =
+        ProblemText{.objective = {1, 1}, .rows = {{1, 1}}, .relations = "<", .rhs = {3.5}, .integers = {1}};
+    text.bounds = {Bounds{.5, 1.5}, Bounds{0, 2}};
+    EXPECT_EQ(solved(text.input()).solution->values, (Values{1, 2}));
+    text.bounds = {Bounds{.5, .5}, Bounds{}};
+    EXPECT_EQ(solved(text.input()).status, Status::Infeasible);
+    EXPECT_EQ(solved(text.input()).reason, "No whole number is within the bounds of variable 1 (v1).");
+}
+
 TEST(Solve, IsNotTakenInByAHugeFixedCharge) {
     // maximise v1 - .001 v2 with v1 <= 1E+09 v2, v1 <= 100: rounding would let v1 in for nothing
     const Outcome outcome = solved(ProblemText{
