@@ -41,7 +41,16 @@ LeftSide leftSide(const SolverInput& input, int i, const std::vector<double>& va
         side.scale = std::max(side.scale, std::abs(term));
     }
     side.scale = std::max(side.scale, std::abs(input.rhs(i)));
+    const double noise = roundingNoise * side.scale;
+    if (std::abs(side.value) <= noise) side.value = 0;
+    if (std::abs(side.value - input.rhs(i)) <= noise) side.value = input.rhs(i);
     return side;
+}
+
+/// A value next to 0 is 0, unless its variable has room for nothing else.
+void takeOffNoise(const Bounds& bounds, double& value) {
+    constexpr double leastRoom = 1E-06;
+    if (std::abs(value) <= roundingNoise && bounds.upper - bounds.lower >= leastRoom) value = 0;
 }
 
 /// Takes a value that misses its bound by no more than the tolerance onto the bound; false for more.
@@ -88,6 +97,7 @@ Checked checked(const SolverInput& input, std::vector<double> values) {
     for (int j = 1; j <= input.n; ++j) {
         if (!std::isfinite(values[at(j)]))
             return {std::nullopt, "No number was found for " + variableText(input, j) + "."};
+        takeOffNoise(input.bounds(j), values[at(j)]);
         if (!takeOntoBounds(input.bounds(j), values[at(j)]))
             return {std::nullopt, "The value " + defaultText(values[at(j)]) + " of " +
                                       variableText(input, j) + " is outside its bounds."};
@@ -117,6 +127,7 @@ ObjectiveValue objectiveOf(const SolverInput& input, const std::vector<double>& 
         result.value += term;
         result.scale = std::max(result.scale, std::abs(term));
     }
+    if (std::abs(result.value) <= roundingNoise * result.scale) result.value = 0;
     return result;
 }
 

@@ -16,6 +16,9 @@ constexpr double checkTolerance = 1E-06;
 /// From here on a coefficient or a right-hand side is too large to be computed with.
 constexpr double largestNumber = 1E+20;
 
+/// What is no more than this fraction of the terms it is the sum of is their rounding.
+constexpr double roundingNoise = 1E-11;
+
 /// A sentence that names a coefficient or right-hand side that is too large; nothing when there is none.
 std::optional<std::string> oversizedNumber(const miprog::SolverInput& input);
 
@@ -30,7 +33,8 @@ struct Checked {
 };
 
 /// Rounds the integer variables to whole numbers, computes objective and left sides anew from the problem,
-/// and tests bounds and constraints. `values` has variable j at j - 1.
+/// and tests bounds and constraints. What is only rounding is taken off: a left side is then exactly 0 or its
+/// right side. `values` has variable j at j - 1.
 Checked checked(const miprog::SolverInput& input, std::vector<double> values);
 
 /// The objective value and the largest of its terms, at least 1.

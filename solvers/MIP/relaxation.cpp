@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "solvers/MIP/certificates.h"
+#include "solvers/MIP/check.h"
 #include "solvers/MIP/linear_model.h"
 
 namespace vantore::mip {
@@ -52,17 +53,24 @@ bool stopped(const ClpSimplex& simplex) {
     return simplex.status() == atLimit || simplex.status() == byHandler;
 }
 
-std::vector<double> scaled(const double* values, int count, double factor) {
+std::vector<double> scaled(const double* values, int count, double factor, double noise = 0) {
     std::vector<double> result(values, values + count);
-    for (double& value : result) value *= factor;
+    for (double& value : result) value = std::abs(value) <= noise ? 0 : value * factor;
     return result;
+}
+
+double largestCost(const SolverInput& input) {
+    double largest = 0;
+    for (const double cost : input.objCoef.span()) largest = std::max(largest, std::abs(cost));
+    return largest;
 }
 
 Relaxation relaxationOf(const SolverInput& input, const ClpSimplex& simplex) {
     const double sign = modelSign(input);
+    const double noise = roundingNoise * largestCost(input);
     return {sign * simplex.objectiveValue(), scaled(simplex.primalColumnSolution(), input.n, 1),
-            scaled(simplex.dualColumnSolution(), input.n, sign),
-            scaled(simplex.dualRowSolution(), input.m, sign)};
+            scaled(simplex.dualColumnSolution(), input.n, sign, noise),
+            scaled(simplex.dualRowSolution(), input.m, sign, noise)};
 }
 
 using Ray = std::unique_ptr<double[]>;

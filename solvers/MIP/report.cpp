@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <sstream>
 
 #include "shell/base/number_text.h"
+#include "shell/base/text.h"
 #include "solvers/MIP/check.h"
 
 namespace vantore::mip {
@@ -34,17 +36,18 @@ std::string plural(long long count, const std::string& what) {
     return format(static_cast<double>(count), "###,###,##0") + " " + what + (count == 1 ? "" : "s");
 }
 
-/// A sentence in lines of the report's width.
+/// A sentence in lines of the report's width, broken at blanks.
 void wrap(PrintLines& page, const std::string& text) {
-    std::size_t start = 0;
-    while (text.size() - start > lineWidth) {
-        std::size_t end = text.rfind(' ', start + lineWidth);
-        if (end == std::string::npos || end <= start) end = start + lineWidth;
-        page.line(text.substr(start, end - start));
-        start = text.find_first_not_of(' ', end);
-        if (start == std::string::npos) return;
+    std::string line;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        if (!line.empty() && length(line) + 1 + length(word) > lineWidth) {
+            page.line(line);
+            line.clear();
+        }
+        line.append(line.empty() ? "" : " ").append(word);
     }
-    page.line(text.substr(start));
+    page.line(line);
 }
 
 void summaryLine(PrintLines& page, const std::string& label, const std::string& figure) {
@@ -175,11 +178,11 @@ void printConstraints(PrintLines& page, const SolverInput& input, const Outcome&
     page.right(slackEnd, "Slack").right(thirdNumberEnd, "value").endLine();
     for (int i = 1; i <= input.m; ++i) {
         const auto at = static_cast<std::size_t>(i - 1);
-        const double left = outcome.solution->leftSides[at];
-        page.right(placeEnd, std::to_string(i)).right(leftSideEnd, columnText(left, numberWidth));
+        const double leftSide = outcome.solution->leftSides[at];
+        page.right(placeEnd, std::to_string(i)).right(leftSideEnd, columnText(leftSide, numberWidth));
         page.tab(relationStart).text(relationText(input.rowSense(i)));
         page.right(rightSideEnd, columnText(input.rhs(i), numberWidth));
-        page.right(slackEnd, columnText(slackOf(input, i, left), numberWidth));
+        page.right(slackEnd, columnText(slackOf(input, i, leftSide), numberWidth));
         page.right(thirdNumberEnd,
                    outcome.relaxation ? columnText(outcome.relaxation->dualValues[at], numberWidth) : "-");
         page.endLine();

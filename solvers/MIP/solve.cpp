@@ -24,8 +24,8 @@ constexpr double objectiveTolerance = 1E-06; // of the largest term of the objec
 /// One run: the problem, its limits and the clock.
 class Run {
   public:
-    Run(const SolverInput& input, const Limits& limits, Progress& progress)
-        : input_(input), limits_(limits), progress_(progress) {}
+    Run(const SolverInput& input, const Limits& limits, Progress& progress, Care care)
+        : input_(input), limits_(limits), progress_(progress), care_(care) {}
 
     void solve() {
         if (const auto fault = oversizedNumber(input_)) return end(Status::NotSolved, *fault);
@@ -93,7 +93,7 @@ class Run {
     void reportUnbounded(const LinearResult& linear) {
         progress_.update([&](Outcome& outcome) { outcome.unlimited = linear.unlimited; });
         if (input_.intCount() == 0) return end(Status::Unbounded);
-        const SearchResult any = searchOnce(Care::Usual, true);
+        const SearchResult any = searchOnce(care_, true);
         const bool solvable = takeSolution(any).empty() && progress_.outcome().solution;
         // Any solution will do here, and none is worth reporting.
         progress_.update([](Outcome& outcome) { outcome.solution.reset(); });
@@ -127,11 +127,9 @@ class Run {
 
     void search() {
         const int before = progress_.outcome().iterations;
-        const SearchResult first = searchOnce(Care::Usual, false);
-        if (!conclude(first) && secondsLeft() > 0 && !progress_.stopping()) {
-            const SearchResult second = searchOnce(Care::Strict, false);
-            if (!conclude(second)) endUnproved();
-        }
+        const bool concluded = conclude(searchOnce(care_, false));
+        if (!concluded && care_ == Care::Usual && secondsLeft() > 0 && !progress_.stopping())
+            conclude(searchOnce(Care::Strict, false));
         progress_.update([&](Outcome& outcome) { outcome.iterations = before + iterations_; });
     }
 
@@ -203,6 +201,7 @@ class Run {
     const SolverInput& input_;
     const Limits& limits_;
     Progress& progress_;
+    Care care_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     int iterations_ = 0;
     std::string fault_;
@@ -210,7 +209,7 @@ class Run {
 
 } // namespace
 
-void solve(const SolverInput& input, const Limits& limits, Progress& progress) {
+void solve(const SolverInput& input, const Limits& limits, Progress& progress, Care care) {
     const auto fail = [&progress](const std::string& reason) {
         progress.update([&](Outcome& outcome) {
             outcome.status = Status::NotSolved;
@@ -218,7 +217,7 @@ void solve(const SolverInput& input, const Limits& limits, Progress& progress) {
         });
     };
     try {
-        Run(input, limits, progress).solve();
+        Run(input, limits, progress, care).solve();
     } catch (const CoinError& error) {
         fail("The solver's library gave up: " + error.message() + ".");
     } catch (const std::exception& error) {

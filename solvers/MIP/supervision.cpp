@@ -6,9 +6,11 @@
 #include <csignal>
 #include <ctime>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <unistd.h>
 
+#include "solvers/MIP/check.h"
 #include "solvers/MIP/progress.h"
 #include "solvers/MIP/solve.h"
 
@@ -39,6 +41,7 @@ bool interrupted() {
 struct Work {
     SolverInput input;
     Limits limits;
+    Care care = Care::Usual;
     Progress progress;
     std::atomic<bool> done = false;
 };
@@ -59,11 +62,70 @@ void holdCrashedSearch(int signal) {
     while (true) pause();
 }
 
-Outcome abandoned(const Work& work, bool byHand) {
-    Outcome outcome = work.progress.outcome();
-    outcome.status = byHand ? Status::Interrupted : Status::TimeLimit;
-    if (crashed) outcome.status = Status::BrokenDown;
-    return outcome;
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// How a search ended for whoever watched over it.
+enum class Watch { Done, Crashed, LeftAlone, LeftAloneByHand };
+
+/// Waits for the end of the search, hands on an interrupt, and gives up when the search doesn't end in time.
+Watch watch(Work& work) {
+    const auto start = Clock::now();
+    double giveUp = work.limits.seconds + graceSeconds;
+    bool byHand = false;
+    while (!work.done && !crashed && secondsSince(start) < giveUp) {
+        if (!interrupted()) continue;
+        byHand = true;
+        work.progress.stop();
+        giveUp = std::min(giveUp, secondsSince(start) + graceSeconds);
+    }
+    if (work.done) return Watch::Done;
+    if (crashed) return Watch::Crashed;
+    return byHand ? Watch::LeftAloneByHand : Watch::LeftAlone;
+}
+
+/// One search in a thread of its own, and what it has found however it ended.
+struct Search {
+    Watch end = Watch::Done;
+    Outcome outcome;
+};
+
+Search searchWatched(const SolverInput& input, const Limits& limits, Care care) {
+    const auto work = std::make_shared<Work>();
+    work->input = input;
+    work->limits = limits;
+    work->care = care;
+    crashed = false;
+    std::thread thread([work] {
+        searching = true;
+        solve(work->input, work->limits, work->progress, work->care);
+        work->done = true;
+    });
+    Search search;
+    search.end = watch(*work);
+    if (search.end == Watch::Done) {
+        thread.join();
+    } else {
+        thread.detach();
+    }
+    search.outcome = work->progress.outcome();
+    if (search.end == Watch::Crashed) search.outcome.status = Status::BrokenDown;
+    if (search.end == Watch::LeftAlone) search.outcome.status = Status::TimeLimit;
+    if (search.end == Watch::LeftAloneByHand) search.outcome.status = Status::Interrupted;
+    return search;
+}
+
+/// Brings in a solution that an earlier search has found. Where it belies what the later one claims, nothing
+/// is proved.
+void takeInto(Outcome& outcome, const SolverInput& input, const Solution& found) {
+    if (outcome.solution && !better(input, found.objective, outcome.solution->objective)) return;
+    outcome.solution = found;
+    if (outcome.status != Status::Optimal && outcome.status != Status::Infeasible) return;
+    outcome.status = Status::Unproved;
+    outcome.bound.reset();
 }
 
 } // namespace
@@ -78,35 +140,15 @@ void takeSignals() {
 }
 
 Outcome supervise(const SolverInput& input, const Limits& limits) {
-    using Clock = std::chrono::steady_clock;
-    const auto work = std::make_shared<Work>();
-    work->input = input;
-    work->limits = limits;
     const auto start = Clock::now();
-    const auto used = [start] { return std::chrono::duration<double>(Clock::now() - start).count(); };
-    std::thread search([work] {
-        searching = true;
-        solve(work->input, work->limits, work->progress);
-        work->done = true;
-    });
-    double giveUp = limits.seconds + graceSeconds;
-    bool byHand = false;
-    while (!work->done && !crashed && used() < giveUp) {
-        if (!interrupted()) continue;
-        byHand = true;
-        work->progress.stop();
-        giveUp = std::min(giveUp, used() + graceSeconds);
+    Search search = searchWatched(input, limits, Care::Usual);
+    if (search.end == Watch::Crashed) {
+        const std::optional<Solution> found = search.outcome.solution;
+        search = searchWatched(input, {limits.seconds - secondsSince(start), limits.nodes}, Care::Strict);
+        if (found) takeInto(search.outcome, input, *found);
     }
-    Outcome outcome;
-    if (work->done) {
-        search.join();
-        outcome = work->progress.outcome();
-    } else {
-        search.detach();
-        outcome = abandoned(*work, byHand);
-    }
-    outcome.seconds = used();
-    return outcome;
+    search.outcome.seconds = secondsSince(start);
+    return search.outcome;
 }
 
 } // namespace vantore::mip

@@ -69,6 +69,14 @@ double mostTerm(double coefficient, const Bounds& bounds) {
     return term(coefficient, coefficient > 0 ? bounds.upper : bounds.lower);
 }
 
+/// Beyond this a double no longer tells a whole number from the next: such a bound is left to the check.
+constexpr double largestWholeBound = 1E+15;
+
+Bounds wholeBounds(const Bounds& bounds) {
+    return {bounds.lower < -largestWholeBound ? -miprog::noBound : std::ceil(bounds.lower),
+            bounds.upper > largestWholeBound ? miprog::noBound : std::floor(bounds.upper)};
+}
+
 class Tightening {
   public:
     explicit Tightening(const SolverInput& input)
@@ -76,7 +84,7 @@ class Tightening {
           binary_(static_cast<std::size_t>(input.n), false) {
         for (const int j : input.intIndex.span()) {
             const auto at = static_cast<std::size_t>(j - 1);
-            bounds_[at] = {std::ceil(bounds_[at].lower), std::floor(bounds_[at].upper)};
+            bounds_[at] = wholeBounds(bounds_[at]);
             binary_[at] = bounds_[at].lower == 0 && bounds_[at].upper == 1;
         }
         for (const Bounds& bounds : bounds_) ownBounds_.add(bounds);

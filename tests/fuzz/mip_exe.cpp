@@ -16,17 +16,17 @@ using namespace vantore;
 constexpr int mostSolvedSize = 12; // constraints and variables
 constexpr mip::Limits tinyLimits{.seconds = .2, .nodes = 20};
 
-/// Solves the problem; whatever is reported as its solution must be one.
-void solveAndReport(const miprog::SolverInput& input) {
+/// Solves the problem; whatever is reported as its solution must be one. The variables have plain names, so
+/// that the report's only letters are its own.
+void solveAndReport(miprog::SolverInput input) {
+    input.names = {};
+    for (int j = 1; j <= input.n; ++j) input.names.add("v");
     mip::Progress progress;
     mip::solve(input, tinyLimits, progress);
     const mip::Outcome outcome = progress.outcome();
     if (outcome.solution && !mip::checked(input, outcome.solution->values).solution) std::abort();
     if (outcome.status == mip::Status::Optimal && !outcome.solution) std::abort();
-    miprog::SolverInput unnamed = input;
-    unnamed.names = {};
-    for (int j = 1; j <= input.n; ++j) unnamed.names.add("v");
-    const PrintLines page = mip::report(unnamed, outcome, tinyLimits);
+    const PrintLines page = mip::report(input, outcome, tinyLimits);
     for (const std::string& line : page.lines())
         if (line.find("nan") != std::string::npos || line.find("inf") != std::string::npos) std::abort();
 }

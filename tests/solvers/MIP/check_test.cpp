@@ -57,6 +57,21 @@ TEST(Check, TakesAValueOntoABoundThatItMissesByRounding) {
     EXPECT_EQ(checked(input, {-.0000001}).solution->values.front(), 0);
 }
 
+TEST(Check, TakesOffWhatIsOnlyRounding) {
+    // .1 x 3 is .30000000000000004 and 3 x .1 - .3 is 5.6E-17
+    const auto input = ProblemText{
+        .objective = {.1, -.3},
+        .rows = {{.1, 0}, {.1, -.3}},
+        .relations = "<<",
+        .rhs = {.3, 0}}.input();
+    const Checked found = checked(input, {3, 1 + 1E-15});
+    ASSERT_TRUE(found.solution);
+    EXPECT_EQ(found.solution->objective, 0);
+    EXPECT_EQ(found.solution->leftSides, (std::vector<double>{.3, 0}));
+    EXPECT_FALSE(checked(input, {3, 1E-13}).solution);
+    EXPECT_EQ(checked(input, {0, 1E-13}).solution->values, (std::vector<double>{0, 0}));
+}
+
 TEST(Check, FindsNoWholeNumberBetweenFractionalBounds) {
     auto text = ProblemText{.objective = {1}, .integers = {1}, .bounds = {Bounds{.9999999, .9999999}}};
     EXPECT_EQ(checked(text.input(), {.9999999}).fault,

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Lets the search of MIP.EXE crash: it must report all the same.
+"""Lets the search of MIP.EXE crash, and its second attempt too: it must report all the same.
 
     crashed_search.py PROGRAM
 
-Starts the program on a problem that has no end, sends the signal of a crash to the thread that searches, and reads
+Starts the program on a problem that has no end, sends the signal of a crash to each thread that searches, and reads
 OUTPUT.Dat.
 """
 import ctypes
@@ -17,16 +17,19 @@ import time
 
 # Two whole numbers, the double of one 1 above the double of the other.
 ENDLESS = ["1", "1,2,0,1,0", "'a','b'", "2,-2", "1", "0", "-1,-1", "0,1E+30,0,1E+30", "2", "1,2"]
+ATTEMPTS = 2
 TIME_LIMIT = 20  # seconds
 
 
-def search_thread(process):
-    """The thread that isn't the first one, once there is one."""
-    while True:
-        threads = [int(t) for t in os.listdir(f"/proc/{process.pid}/task") if int(t) != process.pid]
-        if threads:
-            return threads[0]
+def search_thread(process, before):
+    """The thread that is none of those before, once there is one."""
+    while process.poll() is None:
+        threads = [int(t) for t in os.listdir(f"/proc/{process.pid}/task")]
+        new = [t for t in threads if t not in before]
+        if new:
+            return new[0]
         time.sleep(0.01)
+    raise SystemExit("the program has ended")
 
 
 def crash(program, number):
@@ -34,9 +37,11 @@ def crash(program, number):
         path = pathlib.Path(folder)
         path.joinpath("TEMP.DAT").write_text("\r\n".join(ENDLESS) + "\r\n", newline="")
         with subprocess.Popen([program], env=dict(os.environ, VANTORE_IO=folder + "/")) as process:
-            thread = search_thread(process)
-            time.sleep(0.2)
-            ctypes.CDLL(None).tgkill(process.pid, thread, number)
+            known = [process.pid]
+            for _ in range(ATTEMPTS):
+                known.append(search_thread(process, known))
+                time.sleep(0.2)
+                ctypes.CDLL(None).tgkill(process.pid, known[-1], number)
             status = process.wait(TIME_LIMIT)
         return status, path.joinpath("OUTPUT.Dat").read_text(encoding="utf-8").splitlines()
 

@@ -182,6 +182,18 @@ TEST_F(Program, SurvivesAnyBytes) {
     EXPECT_EQ(output().front(), "STATUS: NOT SOLVED");
 }
 
+TEST_F(Program, ReportsOnNumbersThatItsLibraryCannotStand) {
+    write({"-1", "6,4,4,1,1", "'v','v','v','v'", "-1,-5.48,0,-2E+15", "-9.59,0,2.74,-12.33",
+           "-.0000685,0,5,8.22", "0,0,9,12.33", "-6.85,0,0,0", "7,-9.59,4,-9.59",
+           "7,5.48E-08,0,0,12.33,-8.22", "1,1,-1,0,1,1", "4.11,-5.48,0,5.48",
+           "-1E+30,2.74,0,1E+30,-9.59E+15,1E+30,-6,1E+30", "4", "1,2,3,4"});
+    EXPECT_EQ(solve(), 0);
+    const std::string status = output().front();
+    EXPECT_TRUE(status == "STATUS: STOPPED" || status == "STATUS: NOT PROVED OPTIMAL" ||
+                (status == "STATUS: NOT SOLVED" && output().at(1) == "No solution is given."))
+        << status;
+}
+
 TEST_F(Program, TakesALongerProblemThanTheWindowHas) {
     // 120 variables and constraints, each variable at most its number: the optimum is their sum
     constexpr int size = 120;
