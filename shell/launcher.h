@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "shell/driver_file.h"
+#include "shell/base/driver_file.h"
 #include "shell/forms/form.h"
 #include "shell/module_frame.h"
 #include "shell/suite.h"

@@ -290,9 +290,13 @@ void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const R
 }
 
 void ModuleFrame::printReportFile() {
+    printReportLines(readLines(suite_.ioPath("OUTPUT.DAT")));
+}
+
+void ModuleFrame::printReportLines(const std::vector<std::string>& lines) {
     PrintJob job{.title = names_.name};
     bool first = true;
-    for (const std::string& line : readLines(suite_.ioPath("OUTPUT.DAT"))) {
+    for (const std::string& line : lines) {
         job.print(line, first ? printedTitleFont : printedBodyFont);
         first = false;
     }
@@ -337,8 +341,32 @@ void ModuleFrame::printPlotImage() {
 
 // Solvers
 
+/// What a window is like while a solver runs: the hourglass, no buttons. However the run ends, the window is
+/// as before, and no solver is left behind.
+class ModuleFrame::SolverRun {
+  public:
+    explicit SolverRun(ModuleFrame& frame) : frame_(frame), busy_(frame.suite_) {
+        for (const auto& control : frame.controls())
+            if (auto* button = dynamic_cast<Button*>(control.get()); button != nullptr && button->visible)
+                hidden_.push_back(button);
+        for (Button* button : hidden_) button->visible = false;
+    }
+    ~SolverRun() {
+        for (Button* button : hidden_) button->visible = true;
+        frame_.runningNote.clear();
+        frame_.solver_.reset();
+    }
+    SolverRun(const SolverRun&) = delete;
+    SolverRun& operator=(const SolverRun&) = delete;
+
+  private:
+    ModuleFrame& frame_;
+    Busy busy_;
+    std::vector<Button*> hidden_;
+};
+
 bool ModuleFrame::runSolver(const std::string& program) {
-    const Busy busy(suite_);
+    const SolverRun run(*this);
     solver_ = suite_.platform.programs.start(suite_.installPath(program), pathOf(suite_.installFolder),
                                              {{"VANTORE_IO", suite_.ioFolder}});
     if (!solver_) return false;
@@ -348,8 +376,6 @@ bool ModuleFrame::runSolver(const std::string& program) {
                       ".  Press Ctrl+C to stop it with the best solution so far.";
         suite_.platform.display.processEvents();
     }
-    runningNote.clear();
-    solver_.reset();
     return true;
 }
 

@@ -87,8 +87,8 @@ class ModuleFrame : public Form {
     void printPlotImage();
     void reportRuntimeError(const std::string& errorText, const std::string& place);
 
-    /// Starts a solver program of `installFolder` and waits for its end while the window stays alive.
-    /// False when it could not be started.
+    /// Starts a solver program of `installFolder` and waits for its end while the window stays alive, its
+    /// buttons hidden. False when it could not be started.
     bool runSolver(const std::string& program);
 
     /// Writes a report to a file of `ioFolder`.
@@ -102,6 +102,9 @@ class ModuleFrame : public Form {
 
     /// Prints OUTPUT.DAT: "Arial" 12 for the first line, "Courier New" 10 for the rest.
     void printReportFile();
+
+    /// Prints these lines in the same way.
+    void printReportLines(const std::vector<std::string>& lines);
 
     /// Prints a document and ends the job.
     void print(const PrintJob& job) { suite_.platform.printer.print(job); }
@@ -195,6 +198,7 @@ class ModuleFrame : public Form {
         Control* control;
         std::vector<View> views;
     };
+    class SolverRun;
 
     std::string readOrCreate();
     std::optional<std::string> chooseSaveName();

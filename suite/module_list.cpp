@@ -7,6 +7,7 @@
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
 #include "mathprog/LNPROG/Lnprog.h"
+#include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
 
 namespace vantore {
@@ -27,6 +28,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<cog::COG>("COG"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
+        entry<miprog::MIPROG>("MIPROG"),
         entry<mulreg::MULREG>("MULREG"),
     };
 }

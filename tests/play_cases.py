@@ -4,7 +4,8 @@
     play_cases.py PROGRAM CASES [NAME ...]
 
 A case is a folder MODULE/NAME with script.txt and, as it needs them, io/, install/, expect/transcript.txt and
-expect/files/. Prints the differences and, last, a line "N passed, N failed".
+expect/files/. A line of these that ends in <any> stands for every line that begins as it does. Prints the
+differences and, last, a line "N passed, N failed".
 """
 import difflib
 import pathlib
@@ -14,6 +15,7 @@ import sys
 import tempfile
 
 TIME_LIMIT = 300  # seconds for one case
+ANY = b"<any>"
 
 
 def named(folder, name):
@@ -21,7 +23,18 @@ def named(folder, name):
     return next((f for f in folder.iterdir() if f.name.lower() == name.lower()), None)
 
 
+def filled_in(want, got):
+    """The expected text with its <any> as they came."""
+    expected, made = want.split(b"\n"), got.split(b"\n")
+    for i, (line, other) in enumerate(zip(expected, made)):
+        end = b"\r" if line.endswith(b"\r") else b""
+        if line.endswith(ANY + end) and other.startswith(line[: -len(ANY + end)]) and other.endswith(end):
+            expected[i] = other
+    return b"\n".join(expected)
+
+
 def difference(want, got, name):
+    want = filled_in(want, got)
     if want == got:
         return []
     a, b = (text.decode("utf-8", "replace").splitlines() for text in (want, got))

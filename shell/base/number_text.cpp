@@ -13,6 +13,7 @@ namespace vantore {
 namespace {
 
 constexpr int significantDigits = 15;
+constexpr std::size_t leastFittedWidth = 7; // "-1E-308"
 
 /// A number as sign, significant decimal digits (the first not 0, none for 0) and the place of the point:
 /// `point` digits stand before it. 0.00123 has digits "123" and point -2.
@@ -57,6 +58,11 @@ std::string exponentText(const Decimal& number) {
     if (number.digits.size() > 1) text += "." + number.digits.substr(1);
     const std::string places = std::to_string(exponent < 0 ? -exponent : exponent);
     return text + (exponent < 0 ? "E-" : "E+") + (places.size() < 2 ? "0" : "") + places;
+}
+
+/// The default text is without an exponent.
+bool isPlain(const Decimal& number) {
+    return number.point > -5 && number.point <= significantDigits;
 }
 
 /// Rounds to `decimals` places after the point, half away from zero.
@@ -247,8 +253,24 @@ double valueOf(const NumericPrefix& prefix) {
 std::string defaultText(double value) {
     const Decimal number = decimalOf(value);
     if (number.digits.empty()) return "0";
-    const bool plain = number.point > -5 && number.point <= significantDigits;
-    return (number.negative ? "-" : "") + (plain ? plainText(number) : exponentText(number));
+    return (number.negative ? "-" : "") + (isPlain(number) ? plainText(number) : exponentText(number));
+}
+
+std::string fitted(double value, std::size_t width) {
+    if (width < leastFittedWidth) throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    const std::string whole = defaultText(value);
+    if (whole.size() <= width) return whole;
+    const Decimal exact = decimalOf(value);
+    for (int digits = significantDigits; digits > 0; --digits) {
+        Decimal number = exact;
+        roundTo(number, digits - number.point);
+        number.digits.erase(number.digits.find_last_not_of('0') + 1);
+        const std::string sign = number.negative ? "-" : "";
+        const bool plain = isPlain(number);
+        if (plain && sign.size() + plainText(number).size() <= width) return sign + plainText(number);
+        if (sign.size() + exponentText(number).size() <= width) return sign + exponentText(number);
+    }
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall);
 }
 
 std::string str(double value) {

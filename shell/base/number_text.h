@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,11 @@ double val(std::string_view text);
 /// The value of a text that is a number from end to end, blanks allowed at both ends. TypeMismatch
 /// otherwise, Overflow beyond the double range.
 double numberFrom(std::string_view text);
+
+/// The default text where it has no more than `width` characters, else the text with as many significant
+/// digits as fit, rounded, with an exponent where that shows more of them. InvalidProcedureCall for a width
+/// below 7, which not every number fits.
+std::string fitted(double value, std::size_t width);
 
 /// `value` under a positional mask such as "###,###.#0".
 ///

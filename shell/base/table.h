@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "shell/base/runtime_error.h"
@@ -40,6 +41,25 @@ class Table {
 
     /// All elements from First on, for loops whose bounds have been checked once.
     std::span<T> span() { return items_; }
+    std::span<const T> span() const { return items_; }
+
+  private:
+    std::vector<T> items_;
+};
+
+/// A table from index 1 to a count that is known only as it is filled, checked on every access.
+template <class T>
+class CountedTable {
+  public:
+    int count() const { return static_cast<int>(items_.size()); }
+    void add(T item) { items_.push_back(std::move(item)); }
+
+    const T& operator()(long long index) const {
+        checkIndex(index, 1, count());
+        return items_[static_cast<std::size_t>(index - 1)];
+    }
+
+    /// All elements from index 1 on.
     std::span<const T> span() const { return items_; }
 
   private:

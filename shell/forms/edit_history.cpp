@@ -1,5 +1,6 @@
 #include "shell/forms/edit_history.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantore {
@@ -10,7 +11,8 @@ void put(const Edit& edit, const std::string& text) {
     if (edit.box != nullptr) edit.box->setText(text);
     if (edit.grid == nullptr || edit.row >= edit.grid->rows() || edit.col >= edit.grid->cols()) return;
     edit.grid->setCell(edit.row, edit.col, text);
-    edit.grid->setCurrent(edit.row, edit.col);
+    // A heading is put back through the row or column that it names.
+    edit.grid->setCurrent(std::max(edit.row, 1), std::max(edit.col, 1));
 }
 
 } // namespace

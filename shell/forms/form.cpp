@@ -80,9 +80,12 @@ void Form::select(DataGrid& grid, const CellBlock& block) {
 void Form::click(DataGrid& grid, int row, int col) {
     if (!accepts(grid)) return;
     select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    const std::string before = grid.cell(row, col);
     run(grid, [&] {
         if (grid.onCellClick) grid.onCellClick(row, col);
     });
+    if (row >= grid.rows() || col >= grid.cols()) return;
+    history_.record({.grid = &grid, .row = row, .col = col, .before = before, .after = grid.cell(row, col)});
 }
 
 void Form::doubleClick(DataGrid& grid) {

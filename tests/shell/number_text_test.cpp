@@ -35,6 +35,25 @@ TEST(DefaultText, RefusesInfinity) {
     EXPECT_THROW(defaultText(std::numeric_limits<double>::infinity()), RuntimeError);
 }
 
+TEST(Fitted, IsTheDefaultTextWhereThatHasRoom) {
+    EXPECT_EQ(fitted(1234.5, 7), "1234.5");
+    EXPECT_EQ(fitted(-.25, 7), "-.25");
+    EXPECT_EQ(fitted(0, 7), "0");
+}
+
+TEST(Fitted, LeavesOffDigitsAndThenTakesAnExponent) {
+    EXPECT_EQ(fitted(1.0 / 3, 8), ".3333333");
+    EXPECT_EQ(fitted(-2.0 / 3, 8), "-.666667");
+    EXPECT_EQ(fitted(123456789, 8), "1.23E+08");
+    EXPECT_EQ(fitted(999999999.5, 8), "1E+09");
+    EXPECT_EQ(fitted(-1.23456E-300, 7), "-1E-300");
+    EXPECT_EQ(fitted(1.0 / 7E+6, 10), "1.4286E-07");
+}
+
+TEST(Fitted, NeedsRoomForAnyNumber) {
+    EXPECT_THROW(fitted(1, 6), RuntimeError);
+}
+
 TEST(Joined, AlwaysHasOneBlankBetween) {
     EXPECT_EQ(joined("Check point ", 6), "Check point 6");
     EXPECT_EQ(joined("Limit is", 500), "Limit is 500");

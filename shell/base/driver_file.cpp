@@ -1,4 +1,4 @@
-#include "shell/driver_file.h"
+#include "shell/base/driver_file.h"
 
 #include <algorithm>
 

@@ -1,0 +1,49 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "mathprog/MIPROG/exchange.h"
+#include "shell/base/text.h"
+#include "solvers/MIP/check.h"
+#include "solvers/MIP/report.h"
+#include "solvers/MIP/solve.h"
+
+namespace {
+
+using namespace vantore;
+
+constexpr int mostSolvedSize = 12; // constraints and variables
+constexpr mip::Limits tinyLimits{.seconds = .2, .nodes = 20};
+
+/// Solves the problem; whatever is reported as its solution must be one. The variables have plain names, so
+/// that the report's only letters are its own.
+void solveAndReport(miprog::SolverInput input) {
+    input.names = {};
+    for (int j = 1; j <= input.n; ++j) input.names.add("v");
+    mip::Progress progress;
+    mip::solve(input, tinyLimits, progress);
+    const mip::Outcome outcome = progress.outcome();
+    if (outcome.solution && !mip::checked(input, outcome.solution->values).solution) std::abort();
+    if (outcome.status == mip::Status::Optimal && !outcome.solution) std::abort();
+    const PrintLines page = mip::report(input, outcome, tinyLimits);
+    for (const std::string& line : page.lines())
+        if (line.find("nan") != std::string::npos || line.find("inf") != std::string::npos) std::abort();
+}
+
+} // namespace
+
+/// Reads any bytes as TEMP.DAT. What is a problem is the same when it is written and read again, and is
+/// solved.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        const std::string text = decoded({reinterpret_cast<const char*>(data), size});
+        const miprog::SolverInput input = miprog::readTemporaryLines(lines(text));
+        const auto written = miprog::temporaryLines(input);
+        if (miprog::temporaryLines(miprog::readTemporaryLines(written)) != written) std::abort();
+        if (input.m <= mostSolvedSize && input.n <= mostSolvedSize) solveAndReport(input);
+    } catch (const miprog::MalformedInput&) {
+        // Told to the user, line by line.
+    }
+    return 0;
+}
