@@ -116,7 +116,7 @@ void FormWindow::leaveLeftBox() {
     if (leftBox_ == nullptr) return;
     TextBox& box = *leftBox_;
     leftBox_ = nullptr;
-    if (box.onLeave) steps_.step([this, &box] { form_.leave(box); });
+    if (box.onLeave && !form_.closed) steps_.step([this, &box] { form_.leave(box); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

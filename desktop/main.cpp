@@ -17,7 +17,8 @@ std::string installFolder() {
 int main(int count, char** words) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(count, words);
+    QApplication::setQuitOnLastWindowClosed(false); // the launcher's end is the program's
     vantore::setLook();
     vantore::DesktopSession session(installFolder(), vantore::moduleList());
-    return session.start() ? QApplication::exec() : 1;
+    return session.start() ? QApplication::exec() : 0;
 }
