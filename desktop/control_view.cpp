@@ -1,5 +1,6 @@
 #include "desktop/control_view.h"
 
+#include <array>
 #include <cmath>
 
 #include "desktop/button_views.h"
@@ -63,7 +64,7 @@ QFont ControlView::fittedFont(const QString& text, QSize room, int flags, const 
 
 std::unique_ptr<ControlView> makeView(ViewContext& context, Control& control, QWidget* parent) {
     using Maker = std::unique_ptr<ControlView> (*)(ViewContext&, Control&, QWidget*);
-    constexpr Maker makers[] = {
+    constexpr std::array<Maker, 12> makers = {
         viewIf<Button, ButtonView>,       viewIf<TextBox, TextBoxView>,
         viewIf<Label, LabelView>,         viewIf<DataGrid, GridControlView>,
         viewIf<Option, OptionView>,       viewIf<CheckBox, CheckBoxView>,

@@ -17,6 +17,10 @@ class DesktopSession : public QObject, public WindowSteps {
   public:
     DesktopSession(const std::string& installFolder, std::vector<ModuleEntry> modules);
 
+    ~DesktopSession() override { windows_.closeAll(); }
+    DesktopSession(const DesktopSession&) = delete;
+    DesktopSession& operator=(const DesktopSession&) = delete;
+
     /// Starts the launcher and shows its window. False when the suite can't go on.
     bool start();
 

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <variant>
 
 #include "desktop/chart_drawing.h"
@@ -75,7 +76,7 @@ void paintDrawing(QPainter& painter, const Form& form, const Control& drawing) {
     if (const auto* surface = dynamic_cast<const PictureSurface*>(&drawing)) {
         paintSurface(painter, *surface);
     } else if (const auto* chart = dynamic_cast<const Chart*>(&drawing)) {
-        paintChart(painter, chart->data, paper.size(), form.scale().x);
+        paintChart(painter, chart->data, paper.size(), std::min(form.scale().x, form.scale().y));
     }
 }
 

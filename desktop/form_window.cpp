@@ -20,9 +20,10 @@ namespace vantore {
 
 namespace {
 
-constexpr double margin = 120; // twips, beside a control that reaches beyond its form
-constexpr int noteHeight = 24; // pixels
-constexpr int leaveDelay = 0;  // milliseconds
+constexpr double margin = 120;     // twips, beside a control that reaches beyond its form
+constexpr double noteFontSize = 8; // points of the design
+constexpr int noteMargin = 3;      // pixels
+constexpr int leaveDelay = 0;      // milliseconds
 constexpr int mouseDelay = 40;
 constexpr int frameDelay = 100;    // milliseconds, until a window manager has made its frame
 constexpr int smallestWidth = 320; // pixels
@@ -38,7 +39,7 @@ FormWindow::FormWindow(Form& form, WindowSteps& steps, QWidget* parent)
     canvas_->setAutoFillBackground(true);
     note_->setObjectName("runningNote");
     note_->setAutoFillBackground(true);
-    note_->setMargin(3);
+    note_->setMargin(noteMargin);
     note_->hide();
     edge_->setFrameStyle(QFrame::Box | QFrame::Plain);
     edge_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -116,7 +117,7 @@ void FormWindow::leaveLeftBox() {
     if (leftBox_ == nullptr) return;
     TextBox& box = *leftBox_;
     leftBox_ = nullptr;
-    if (box.onLeave) steps_.step([this, &box] { form_.leave(box); });
+    if (box.onLeave && !form_.closed) steps_.step([this, &box] { form_.leave(box); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -169,7 +170,7 @@ void FormWindow::refresh() {
 }
 
 void FormWindow::layOut() {
-    const int strip = note_->isHidden() ? 0 : noteHeight;
+    const int strip = note_->isHidden() ? 0 : note_->sizeHint().height();
     const QSize room(width(), height() - strip);
     const QSize design = designSize();
     zoom_ = std::min(room.width() / static_cast<double>(design.width()),
@@ -194,6 +195,9 @@ void FormWindow::syncColours() {
 }
 
 void FormWindow::syncNote() {
+    const double scale = std::min(form_.scale().x, form_.scale().y);
+    const QFont font = qtFont({.size = noteFontSize * scale});
+    if (note_->font() != font) note_->setFont(font);
     note_->setText(qtText(form_.runningNote));
     note_->setVisible(!form_.runningNote.empty());
 }

@@ -7,6 +7,8 @@ namespace vantore {
 
 namespace {
 
+constexpr int edgeReach = 3; // pixels
+
 int indexAt(const std::vector<int>& edges, int position) {
     const auto beyond = std::upper_bound(edges.begin(), edges.end(), position);
     const auto index = static_cast<int>(beyond - edges.begin()) - 1;
@@ -34,6 +36,14 @@ CellPlace GridGeometry::at(QPoint point, QPoint scroll) const {
     const int x = point.x() < fixedWidth() ? point.x() : point.x() + scroll.x();
     const int y = point.y() < fixedHeight() ? point.y() : point.y() + scroll.y();
     return {rowAt(y), colAt(x)};
+}
+
+int GridGeometry::edgeAt(QPoint point, QPoint scroll) const {
+    if (point.y() >= fixedHeight()) return -1;
+    const int x = point.x() < fixedWidth() ? point.x() : point.x() + scroll.x();
+    const int col = colAt(x);
+    if (lefts_[static_cast<std::size_t>(col) + 1] - x <= edgeReach) return col;
+    return col > 0 && x - lefts_[static_cast<std::size_t>(col)] < edgeReach ? col - 1 : -1;
 }
 
 int GridGeometry::rowAt(int y) const {

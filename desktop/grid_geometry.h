@@ -36,6 +36,10 @@ class GridGeometry {
     /// The cell under a point of a view scrolled by `scroll`, the nearest one for a point beside all cells.
     CellPlace at(QPoint point, QPoint scroll) const;
 
+    /// The column whose right edge runs through a point of the headings, within a few pixels; -1 when there
+    /// is none.
+    int edgeAt(QPoint point, QPoint scroll) const;
+
     /// First row or column that reaches beyond a position of the content.
     int rowAt(int y) const;
     int colAt(int x) const;

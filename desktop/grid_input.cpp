@@ -9,6 +9,12 @@
 
 namespace vantore {
 
+namespace {
+
+constexpr int narrowestColumn = 12; // pixels
+
+} // namespace
+
 /// Keys and mouse of the grid.
 
 void GridView::highlight(CellPlace from, CellPlace to) {
@@ -29,7 +35,10 @@ void GridView::highlightStill(CellPlace from, CellPlace to) {
 void GridView::mousePressEvent(QMouseEvent* event) {
     const CellPlace place = geometry_.at(event->position().toPoint(), scroll());
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
-    if (event->button() == Qt::LeftButton) return pressAt(place, extends);
+    if (event->button() == Qt::LeftButton) {
+        resized_ = geometry_.edgeAt(event->position().toPoint(), scroll());
+        return resized_ >= 0 ? void() : pressAt(place, extends);
+    }
     const CellBlock& block = grid_.selection();
     const bool inside = place.row >= block.startRow && place.row <= block.endRow &&
                         place.col >= block.startCol && place.col <= block.endCol;
@@ -64,7 +73,11 @@ void GridView::selectLine(CellPlace head, bool extends) {
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* event) {
-    if (!dragging_ || !event->buttons().testFlag(Qt::LeftButton)) return;
+    const bool pressed = event->buttons().testFlag(Qt::LeftButton);
+    if (pressed && resized_ >= 0) return resizeColumn(event->position().toPoint().x());
+    const bool onEdge = geometry_.edgeAt(event->position().toPoint(), scroll()) >= 0;
+    viewport()->setCursor(onEdge && !pressed ? Qt::SplitHCursor : Qt::ArrowCursor);
+    if (!dragging_ || !pressed) return;
     // Beyond the edge of the view lie the cells that are scrolled away.
     const QPoint point = event->position().toPoint() + scroll();
     const CellPlace place{std::max(1, geometry_.rowAt(point.y())), std::max(1, geometry_.colAt(point.x()))};
@@ -73,8 +86,15 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
     highlight({grid_.row(), grid_.col()}, place);
 }
 
+/// A dragged edge of a heading makes its column wider or narrower.
+void GridView::resizeColumn(int right) {
+    const int left = cellRect(0, resized_).left();
+    act([&] { grid_.setColWidth(resized_, std::max(narrowestColumn, right - left) / pixelsOfTwip_); });
+}
+
 /// A cell that was pressed and let go without a drag has been clicked.
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    resized_ = -1;
     if (event->button() != Qt::LeftButton || !dragging_) return;
     dragging_ = false;
     if (!dragged_) act([this] { context_.form().click(grid_, pressed_.row, pressed_.col); });

@@ -40,11 +40,13 @@ GridView::GridView(QWidget* parent, ViewContext& context, DataGrid& grid)
     setAttribute(Qt::WA_InputMethodEnabled);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setCursor(Qt::ArrowCursor);
+    viewport()->setMouseTracking(true);
 }
 
 void GridView::refresh(const Layout& layout, const QFont& font) {
     GridGeometry geometry(grid_, layout);
     font_ = font;
+    pixelsOfTwip_ = layout.x;
     if (!(geometry == geometry_)) {
         geometry_ = std::move(geometry);
         kept_ = {-1, -1};

@@ -55,6 +55,7 @@ class GridView : public QAbstractScrollArea {
     void highlightStill(CellPlace from, CellPlace to);
     void pressAt(CellPlace place, bool extends);
     void selectLine(CellPlace head, bool extends);
+    void resizeColumn(int right);
     bool moveKey(QKeyEvent* event);
     bool commandKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
@@ -71,6 +72,8 @@ class GridView : public QAbstractScrollArea {
     QFont font_;
     CellPlace kept_{-1, -1}; ///< the far corner of the highlight when it was last brought into view
     CellPlace pressed_;
+    double pixelsOfTwip_ = 1;
+    int resized_ = -1;   ///< the column whose edge is being dragged
     bool still_ = false; ///< a whole column or row is marked: nothing scrolls for its far end
     bool dragging_ = false;
     bool dragged_ = false;

@@ -12,7 +12,8 @@ namespace vantore {
 
 namespace {
 
-constexpr int frameTitleInset = 16; // pixels at both sides of a frame's title together
+constexpr int frameTitleInset = 16;      // pixels at both sides of a frame's title together
+constexpr double frameTitleHeight = 240; // twips of the design that a frame's controls leave free
 
 /// The text with places to break at behind the separators of a path, which may be longer than a line.
 QString breakable(const std::string& caption) {
@@ -60,7 +61,8 @@ FrameView::FrameView(ViewContext& context, Frame& frame, QWidget* parent)
 void FrameView::syncContent(const Layout& layout) {
     const QString text = qtText(control().caption);
     const QFont font =
-        fittedFont(text, box_.size() - QSize(frameTitleInset, 0), Qt::TextShowMnemonic, layout);
+        fittedFont(text, QSize(box_.width() - frameTitleInset, static_cast<int>(frameTitleHeight * layout.y)),
+                   Qt::TextShowMnemonic, layout);
     if (box_.title() != text) box_.setTitle(text);
     if (box_.font() != font) box_.setFont(font);
 }

@@ -46,7 +46,7 @@ QLabel* labelFor(const char* text, QWidget* buddy, QWidget* parent) {
 
 PrintWindow::PrintWindow(QWidget* parent, const PrintJob& job, const QString& folder)
     : QDialog(parent), job_(job), paper_(std::make_unique<QPrinter>(QPrinter::HighResolution)),
-      preview_(nullptr), target_(make<QComboBox>(this)),
+      target_(make<QComboBox>(this)),
       file_(make<QLineEdit>(QDir(folder).filePath(qtText(job.title) + ".pdf"), this)),
       browse_(make<QPushButton>("&Browse...", this)), pageNumber_(make<QLabel>(this)) {
     setWindowTitle("Print - " + qtText(job.title));

@@ -41,7 +41,7 @@ class PrintWindow : public QDialog {
 
     const PrintJob& job_;
     std::unique_ptr<QPrinter> paper_; ///< what the preview paints on
-    QPrintPreviewWidget* preview_;
+    QPrintPreviewWidget* preview_ = nullptr;
     QComboBox* target_;
     QLineEdit* file_;
     QPushButton* browse_;

@@ -89,9 +89,9 @@ class PagePainter {
 
 QPageLayout pageLayout(Orientation orientation) {
     const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageLayout(QPageSize(letter ? QPageSize::Letter : QPageSize::A4),
-                       orientation == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape,
-                       QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
+    return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4),
+            orientation == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape,
+            QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter};
 }
 
 Printer::Area printableArea(const QPageLayout& layout) {

@@ -12,7 +12,7 @@ namespace vantore {
 
 namespace {
 
-class QtProgram : public RunningProgram {
+class QtProgram final : public RunningProgram {
   public:
     QtProgram(const QString& program, const QString& folder, const QProcessEnvironment& environment) {
         process_.setProgram(program);

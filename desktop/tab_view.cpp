@@ -87,7 +87,7 @@ class TabStrip : public QWidget {
         for (int i = 0; i < count(); ++i) {
             const int right =
                 fits ? left + widths.at(static_cast<std::size_t>(i)) : width() * (i + 1) / count();
-            places_.push_back(QRect(left, 0, right - left, height_));
+            places_.emplace_back(left, 0, right - left, height_);
             left = right;
         }
     }

@@ -18,6 +18,10 @@ void Windows::close(const Form& form) {
     window->hide();
 }
 
+void Windows::closeAll() {
+    while (!windows_.empty()) windows_.pop_back();
+}
+
 FormWindow* Windows::find(const Form& form) const {
     for (const auto& window : windows_)
         if (&window->form() == &form) return window.get();
@@ -26,6 +30,7 @@ FormWindow* Windows::find(const Form& form) const {
 
 void Windows::refresh() {
     // By index: leaving a text box may run a handler that opens a dialog.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->refresh();
 }
 

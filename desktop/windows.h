@@ -10,11 +10,19 @@ namespace vantore {
 /// The windows that are open, the one in front last.
 class Windows {
   public:
+    Windows() = default;
+    ~Windows() { closeAll(); }
+    Windows(const Windows&) = delete;
+    Windows& operator=(const Windows&) = delete;
+
     /// Opens a window for the form over the one in front.
     FormWindow& open(Form& form, WindowSteps& steps);
 
     /// Takes the form's window away.
     void close(const Form& form);
+
+    /// Takes all windows away, the one in front first: it belongs to the one behind it.
+    void closeAll();
 
     FormWindow* find(const Form& form) const;
     FormWindow* front() const { return windows_.empty() ? nullptr : windows_.back().get(); }

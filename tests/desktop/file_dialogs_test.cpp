@@ -1,14 +1,10 @@
 #include "desktop/file_dialogs.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "desktop/fonts.h"
 #include "shell/base/text_file.h"
+#include "tests/desktop/next_dialog.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -35,20 +31,8 @@ TEST(FileDialogs, ATypedNameFindsItsFileInAnyCaseAndWithoutEnding) {
     EXPECT_EQ(pathForName(path + "COG02", ""), path + "COG02");
 }
 
-/// Does something to the dialog that comes up next.
-void withNextDialog(const std::function<void(QWidget&)>& action) {
-    QTimer::singleShot(50, [action] {
-        if (QWidget* dialog = QApplication::activeModalWidget()) return action(*dialog);
-        withNextDialog(action);
-    });
-}
-
 std::optional<std::string> typed(const FileDialog& dialog, const char* name) {
-    withNextDialog([name](QWidget& box) {
-        auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
-        QTest::keyClicks(edit, name);
-        QTest::keyClick(edit, Qt::Key_Return);
-    });
+    answerFileDialog(name);
     return chooseFile(nullptr, dialog);
 }
 

@@ -149,6 +149,19 @@ TEST_F(GridViewTest, AHeadingHighlightsItsColumnAndARowNumberItsRow) {
     EXPECT_EQ(form.log, "");
 }
 
+TEST_F(GridViewTest, ADraggedEdgeOfAHeadingWidensItsColumn) {
+    const int before = view.cellRect(0, 1).width();
+    const QPoint edge(view.cellRect(0, 1).right(), 5);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, edge);
+    QMouseEvent move(QEvent::MouseMove, edge + QPoint(30, 0),
+                     view.viewport()->mapToGlobal(edge + QPoint(30, 0)), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &move);
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
+    EXPECT_NEAR(view.cellRect(0, 1).width(), before + 30, 1);
+    EXPECT_EQ(selection(), "1,1 - 1,1");
+}
+
 TEST_F(GridViewTest, ADoubleClickIsTheGridsWhereItHasAMeaning) {
     doubleClick(2, 2);
     EXPECT_EQ(form.log, "click 2,2 click 2,2 ");

@@ -1,11 +1,9 @@
 #include <QApplication>
-#include <QStyle>
-#include <QStyleFactory>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
-#include "desktop/fonts.h"
+#include "desktop/look.h"
 
 /// Runs the tests with an application that needs no display.
 int main(int count, char** words) {
@@ -17,8 +15,6 @@ int main(int count, char** words) {
     auto argumentCount = static_cast<int>(arguments.size()) - 1;
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QApplication application(argumentCount, arguments.data());
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    vantore::substituteFonts();
+    vantore::setLook();
     return RUN_ALL_TESTS();
 }
