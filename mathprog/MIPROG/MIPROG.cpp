@@ -205,8 +205,8 @@ void MIPROG::showLabels() {
     const int col = Grid->col();
     const bool constraint = row >= 1 && row <= m();
     const bool variable = col >= 1 && col <= n();
-    txtConLabel->cell = constraint ? std::optional(CellPlace{Grid, row, 0}) : std::nullopt;
-    txtVarLabel->cell = variable ? std::optional(CellPlace{Grid, 0, col}) : std::nullopt;
+    txtConLabel->cell = constraint ? std::optional(CellReference{Grid, row, 0}) : std::nullopt;
+    txtVarLabel->cell = variable ? std::optional(CellReference{Grid, 0, col}) : std::nullopt;
     txtConLabel->setText(constraint ? Grid->cell(row, 0) : "");
     txtVarLabel->setText(variable ? Grid->cell(0, col) : "");
     settingBoxes_ = false;

@@ -122,7 +122,7 @@ class Label : public Control {
 class DataGrid;
 
 /// A cell of a grid.
-struct CellPlace {
+struct CellReference {
     DataGrid* grid = nullptr;
     int row = 0;
     int col = 0;
@@ -143,7 +143,7 @@ class TextBox : public Control {
     std::function<void()> onLeave; ///< The focus moves away.
 
     /// The cell whose text the box shows, where it shows one: what a user types goes into the cell.
-    std::optional<CellPlace> cell;
+    std::optional<CellReference> cell;
 
   private:
     std::string text_;
