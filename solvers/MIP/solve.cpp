@@ -30,7 +30,8 @@ class Run {
     void solve() {
         if (const auto fault = oversizedNumber(input_)) return end(Status::NotSolved, *fault);
         if (const auto fault = integerWithoutWholeNumber(input_)) return end(Status::Infeasible, *fault);
-        const LinearResult linear = relax();
+        LinearResult linear = relax(Care::Usual);
+        if (linear.status == LinearStatus::Failed) linear = relax(Care::Strict);
         switch (linear.status) {
         case LinearStatus::Optimal: return input_.intCount() == 0 ? takeRelaxation(linear) : search();
         case LinearStatus::Infeasible: return reportInfeasible(linear);
@@ -56,10 +57,8 @@ class Run {
 
     Status stopReason() const { return progress_.stopping() ? Status::Interrupted : Status::TimeLimit; }
 
-    LinearResult relax() {
-        LinearResult linear = solveRelaxation(input_, secondsLeft(), Care::Usual, progress_);
-        if (linear.status == LinearStatus::Failed)
-            linear = solveRelaxation(input_, secondsLeft(), Care::Strict, progress_);
+    LinearResult relax(Care care) {
+        const LinearResult linear = solveRelaxation(input_, secondsLeft(), care, progress_);
         progress_.update([&](Outcome& outcome) {
             outcome.iterations += linear.iterations;
             if (linear.status != LinearStatus::Optimal) return;
@@ -70,11 +69,11 @@ class Run {
     }
 
     /// Without integer variables the relaxation is the problem.
-    void takeRelaxation(LinearResult linear) {
+    void takeRelaxation(const LinearResult& linear) {
         Checked found = checked(input_, linear.relaxation.values);
         if (!found.solution) {
-            linear = solveRelaxation(input_, secondsLeft(), Care::Strict, progress_);
-            if (linear.status == LinearStatus::Optimal) found = checked(input_, linear.relaxation.values);
+            const LinearResult again = relax(Care::Strict);
+            if (again.status == LinearStatus::Optimal) found = checked(input_, again.relaxation.values);
         }
         if (!found.solution) return end(Status::NotSolved, failedCheck(found.fault));
         keepBest(input_, *found.solution, progress_);
@@ -98,11 +97,9 @@ class Run {
         // Any solution will do here, and none is worth reporting.
         progress_.update([](Outcome& outcome) { outcome.solution.reset(); });
         if (solvable) return end(Status::Unbounded);
-        const std::string unbounded = "Without the integer requirements the problem is unbounded.";
-        switch (any.end) {
-        case SearchEnd::Infeasible: return end(Status::Infeasible, unbounded);
-        default: return end(statusOf(any.end), unbounded);
-        }
+        const bool none = any.end == SearchEnd::Infeasible && tellsFractions();
+        end(none ? Status::Infeasible : statusOf(any.end),
+            "Without the integer requirements the problem is unbounded.");
     }
 
     static Status statusOf(SearchEnd end) {
@@ -155,8 +152,10 @@ class Run {
         const Outcome outcome = progress_.outcome();
         if (outcome.solution.has_value() != (result.end == SearchEnd::Optimal)) return false;
         if (outcome.solution && !reaches(*outcome.solution, result.objective)) return false;
-        return !hidesFractions(tightened(input_), integerTolerance);
+        return tellsFractions();
     }
+
+    bool tellsFractions() const { return !hidesFractions(tightened(input_), integerTolerance); }
 
     bool endOptimal() {
         progress_.update([](Outcome& outcome) { outcome.bound = outcome.solution->objective; });

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int passes = 3;           // over all constraints, to carry bounds from one to the next
 constexpr double widening = 1E-09;  // of a derived bound, so that rounding never makes it too tight
+constexpr double leastShare = .001; // of the largest other coefficient: what a coefficient keeps
 constexpr double worthwhile = .999; // A coefficient is changed when it shrinks below this share.
 
 /// One constraint as "sum of coefficient x variable <= right": "=" stands for two of them.
@@ -160,17 +161,24 @@ class Tightening {
     }
 
     /// Where the constraint says nothing with the variable at one of its values, it is made to say just what
-    /// holds there anyway: that the others come to no more than `others`.
+    /// holds there anyway: that the others come to no more than `others`. The coefficient keeps a size that
+    /// is more than rounding beside the others.
     static void shrink(Row& row, std::size_t j, double others) {
+        const double size = std::abs(row.coefs[j]);
         const double atOne = row.right - row.coefs[j];
-        if (row.coefs[j] < 0 && row.right < others && others < atOne) {
-            if (others - row.right < worthwhile * -row.coefs[j]) row.coefs[j] = row.right - others;
-        } else if (row.coefs[j] > 0 && atOne < others && others < row.right) {
-            const double excess = row.right - others;
-            if (row.coefs[j] - excess >= worthwhile * row.coefs[j]) return;
-            row.coefs[j] -= excess;
-            row.right = others;
-        }
+        if (others <= std::min(row.right, atOne) || others >= std::max(row.right, atOne)) return;
+        const double needed = row.coefs[j] < 0 ? others - row.right : others - atOne;
+        const double kept = std::max(needed, leastShare * largestOther(row, j));
+        if (kept >= worthwhile * size) return;
+        if (row.coefs[j] > 0) row.right -= size - kept;
+        row.coefs[j] = std::copysign(kept, row.coefs[j]);
+    }
+
+    static double largestOther(const Row& row, std::size_t j) {
+        double largest = 0;
+        for (std::size_t k = 0; k < row.coefs.size(); ++k)
+            if (k != j) largest = std::max(largest, std::abs(row.coefs[k]));
+        return largest;
     }
 
     const SolverInput& input_;

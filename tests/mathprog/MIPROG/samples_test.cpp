@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
@@ -16,6 +17,10 @@ struct Sample {
     const char* file;
     double optimum;
 };
+
+void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.file;
+}
 
 class MiprogSample : public testing::TestWithParam<Sample> {
   protected:

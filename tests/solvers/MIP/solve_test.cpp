@@ -224,7 +224,7 @@ SolverInput randomProblem(std::mt19937& random, int most) {
     const int variables = from(1, 4);
     for (int j = 1; j <= variables; ++j) {
         text.objective.push_back(from(-9, 9));
-        text.bounds.push_back({0, static_cast<double>(most)});
+        text.bounds.push_back({0, from(0, 1) == 1 ? 1.0 : most});
         text.integers.push_back(j);
     }
     for (int i = from(1, 4); i > 0; --i) {
@@ -272,6 +272,13 @@ TEST(Supervise, StopsAtItsTimeLimitWithTheBestSolution) {
     EXPECT_TRUE(outcome.solution);
     EXPECT_GE(outcome.seconds, .4);
     EXPECT_LT(used.count(), .5 + graceSeconds + 1);
+}
+
+TEST(Supervise, LeavesASearchAloneThatDoesNotEndInTime) {
+    // No time at all, the grace included: whatever the search is at, the outcome comes at once.
+    const Outcome outcome = supervise(marketSplit(), {.seconds = -graceSeconds});
+    EXPECT_EQ(outcome.status, Status::TimeLimit);
+    EXPECT_LT(outcome.seconds, 1);
 }
 
 TEST(Solve, StopsWhenItIsToldTo) {

@@ -62,6 +62,21 @@ TEST(Tightened, MovesTheRightSideWithAPositiveCoefficient) {
     EXPECT_NEAR(tight.rhs(1), 150, nearly);
 }
 
+TEST(Tightened, LeavesNoCoefficientThatIsOnlyRounding) {
+    // 5 v1 - 50 v2 <= 100 with v1 <= 20: the constraint never binds
+    const auto tight = tightened(ProblemText{
+        .objective = {1, -1},
+        .rows = {{5, -50}, {1, 0}},
+        .relations = "<<",
+        .rhs = {100, 20},
+        .integers = {2},
+        .bounds = {Bounds{},
+                   Bounds{0, 1}}}.input());
+    EXPECT_LE(tight.coef(1, 2), -.005);
+    EXPECT_GE(tight.coef(1, 2), -50);
+    EXPECT_FALSE(hidesFractions(tight, integerTolerance));
+}
+
 TEST(Tightened, LeavesWhatHasNoLimit) {
     auto text = ProblemText{.objective = {1, -1},
                             .rows = {{1, -10000}},
