@@ -11,8 +11,8 @@
 #include "desktop/fonts.h"
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
-#include "shell/base/text_file.h"
 #include "shell/base/driver_file.h"
+#include "shell/base/text_file.h"
 #include "suite/module_list.h"
 
 // How long a user waits: from the start of the program until the launcher is drawn, from the press of a

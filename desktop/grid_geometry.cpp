@@ -32,7 +32,7 @@ QRect GridGeometry::cell(int row, int col) const {
     return {lefts_.at(c), tops_.at(r), lefts_.at(c + 1) - lefts_.at(c), tops_.at(r + 1) - tops_.at(r)};
 }
 
-CellPlace GridGeometry::at(QPoint point, QPoint scroll) const {
+GridPlace GridGeometry::at(QPoint point, QPoint scroll) const {
     const int x = point.x() < fixedWidth() ? point.x() : point.x() + scroll.x();
     const int y = point.y() < fixedHeight() ? point.y() : point.y() + scroll.y();
     return {rowAt(y), colAt(x)};

@@ -9,11 +9,11 @@
 namespace vantore {
 
 /// A cell by its row and column.
-struct CellPlace {
+struct GridPlace {
     int row = 0;
     int col = 0;
 
-    bool operator==(const CellPlace&) const = default;
+    bool operator==(const GridPlace&) const = default;
 };
 
 /// Where the cells of a grid lie in pixels of its content, before scrolling. Row 0 and column 0 are fixed:
@@ -34,7 +34,7 @@ class GridGeometry {
     QRect cell(int row, int col) const;
 
     /// The cell under a point of a view scrolled by `scroll`, the nearest one for a point beside all cells.
-    CellPlace at(QPoint point, QPoint scroll) const;
+    GridPlace at(QPoint point, QPoint scroll) const;
 
     /// The column whose right edge runs through a point of the headings, within a few pixels; -1 when there
     /// is none.

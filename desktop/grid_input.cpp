@@ -17,14 +17,14 @@ constexpr int narrowestColumn = 12; // pixels
 
 /// Keys and mouse of the grid.
 
-void GridView::highlight(CellPlace from, CellPlace to) {
+void GridView::highlight(GridPlace from, GridPlace to) {
     act([&] {
         context_.form().select(
             grid_, {.startRow = from.row, .endRow = to.row, .startCol = from.col, .endCol = to.col});
     });
 }
 
-void GridView::highlightStill(CellPlace from, CellPlace to) {
+void GridView::highlightStill(GridPlace from, GridPlace to) {
     still_ = true;
     highlight(from, to);
     still_ = false;
@@ -33,7 +33,7 @@ void GridView::highlightStill(CellPlace from, CellPlace to) {
 // Mouse
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-    const CellPlace place = geometry_.at(event->position().toPoint(), scroll());
+    const GridPlace place = geometry_.at(event->position().toPoint(), scroll());
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
     if (event->button() == Qt::LeftButton) {
         resized_ = geometry_.edgeAt(event->position().toPoint(), scroll());
@@ -46,7 +46,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
         highlight(place, place);
 }
 
-void GridView::pressAt(CellPlace place, bool extends) {
+void GridView::pressAt(GridPlace place, bool extends) {
     dragged_ = false;
     dragging_ = hasCells();
     if (!dragging_) return;
@@ -57,14 +57,14 @@ void GridView::pressAt(CellPlace place, bool extends) {
     pressed_ = place;
     const bool anchored = extends && grid_.row() > 0 && grid_.col() > 0;
     dragged_ = anchored;
-    highlight(anchored ? CellPlace{grid_.row(), grid_.col()} : place, place);
+    highlight(anchored ? GridPlace{grid_.row(), grid_.col()} : place, place);
 }
 
 /// A press on a heading highlights its whole column, on a row's number the row, on the corner all cells.
-void GridView::selectLine(CellPlace head, bool extends) {
-    const CellPlace last{grid_.rows() - 1, grid_.cols() - 1};
-    CellPlace from{1, 1};
-    CellPlace to = last;
+void GridView::selectLine(GridPlace head, bool extends) {
+    const GridPlace last{grid_.rows() - 1, grid_.cols() - 1};
+    GridPlace from{1, 1};
+    GridPlace to = last;
     if (head.col > 0) from.col = to.col = head.col;
     if (head.row > 0) from.row = to.row = head.row;
     if (extends && head.col > 0) from.col = std::max(1, grid_.col());
@@ -80,7 +80,7 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
     if (!dragging_ || !pressed) return;
     // Beyond the edge of the view lie the cells that are scrolled away.
     const QPoint point = event->position().toPoint() + scroll();
-    const CellPlace place{std::max(1, geometry_.rowAt(point.y())), std::max(1, geometry_.colAt(point.x()))};
+    const GridPlace place{std::max(1, geometry_.rowAt(point.y())), std::max(1, geometry_.colAt(point.x()))};
     if (place == far()) return;
     dragged_ = true;
     highlight({grid_.row(), grid_.col()}, place);
@@ -103,7 +103,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     // Where a double click means nothing, its second press is a click like the first.
     if (!grid_.onDoubleClick || event->button() != Qt::LeftButton) return mousePressEvent(event);
-    const CellPlace place = geometry_.at(event->position().toPoint(), scroll());
+    const GridPlace place = geometry_.at(event->position().toPoint(), scroll());
     if (place.row > 0 && place.col > 0) act([this] { context_.form().doubleClick(grid_); });
 }
 
@@ -120,7 +120,7 @@ int GridView::pageRows() const {
     return std::max(1, (room().height() - geometry_.fixedHeight()) / rowHeight - 1);
 }
 
-CellPlace GridView::movedBy(const QKeyEvent& event, CellPlace from) const {
+GridPlace GridView::movedBy(const QKeyEvent& event, GridPlace from) const {
     const bool whole = event.modifiers().testFlag(Qt::ControlModifier);
     switch (event.key()) {
     case Qt::Key_Left: return {from.row, from.col - 1};
@@ -138,10 +138,10 @@ CellPlace GridView::movedBy(const QKeyEvent& event, CellPlace from) const {
 bool GridView::moveKey(QKeyEvent* event) {
     if (!hasCells() || event->modifiers().testFlag(Qt::AltModifier)) return false;
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
-    const CellPlace current{grid_.row(), grid_.col()};
-    const CellPlace wanted = movedBy(*event, extends ? far() : current);
-    if (wanted == CellPlace{-1, -1}) return false;
-    const CellPlace place{std::clamp(wanted.row, 1, grid_.rows() - 1),
+    const GridPlace current{grid_.row(), grid_.col()};
+    const GridPlace wanted = movedBy(*event, extends ? far() : current);
+    if (wanted == GridPlace{-1, -1}) return false;
+    const GridPlace place{std::clamp(wanted.row, 1, grid_.rows() - 1),
                           std::clamp(wanted.col, 1, grid_.cols() - 1)};
     const bool anchored = extends && current.row > 0 && current.col > 0;
     highlight(anchored ? current : place, place);

@@ -37,7 +37,7 @@ class GridPaint {
         paintHeads();
     }
 
-    bool isCut(CellPlace place) const {
+    bool isCut(GridPlace place) const {
         const QRect cell = geometry_.cell(place.row, place.col);
         return metrics_.horizontalAdvance(qtText(grid_.cell(place.row, place.col))) >
                cell.width() - 2 * textMargin;
@@ -164,7 +164,7 @@ void paintGrid(QPainter& painter, const GridLook& look) {
     GridPaint(painter, look).paint();
 }
 
-bool isCut(const GridLook& look, CellPlace place) {
+bool isCut(const GridLook& look, GridPlace place) {
     QPixmap unused(1, 1);
     QPainter painter(&unused);
     return GridPaint(painter, look).isCut(place);

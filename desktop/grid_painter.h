@@ -22,6 +22,6 @@ struct GridLook {
 void paintGrid(QPainter& painter, const GridLook& look);
 
 /// True when the cell's text is wider than the cell.
-bool isCut(const GridLook& look, CellPlace place);
+bool isCut(const GridLook& look, GridPlace place);
 
 } // namespace vantore

@@ -52,7 +52,7 @@ void GridView::refresh(const Layout& layout, const QFont& font) {
         kept_ = {-1, -1};
         updateScrollBars();
     }
-    const CellPlace corner = far();
+    const GridPlace corner = far();
     if (!(corner == kept_) && !still_) keepInView(corner);
     kept_ = corner;
     viewport()->update();
@@ -85,7 +85,7 @@ void GridView::updateScrollBars() {
     shape(*horizontalScrollBar(), geometry_.width(), room().width(), rowStep);
 }
 
-void GridView::keepInView(CellPlace place) {
+void GridView::keepInView(GridPlace place) {
     if (place.row < 1 || place.col < 1 || place.row >= geometry_.rows() || place.col >= geometry_.cols())
         return;
     const QRect cell = geometry_.cell(place.row, place.col);
@@ -94,7 +94,7 @@ void GridView::keepInView(CellPlace place) {
 }
 
 /// The corner of the highlight that lies opposite the current cell: the one that Shift moves.
-CellPlace GridView::far() const {
+GridPlace GridView::far() const {
     const CellBlock& block = grid_.selection();
     return {block.startRow == grid_.row() ? block.endRow : block.startRow,
             block.startCol == grid_.col() ? block.endCol : block.startCol};
@@ -131,7 +131,7 @@ void GridView::focusOutEvent(QFocusEvent* event) {
 bool GridView::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    const CellPlace place = geometry_.at(help->pos(), scroll());
+    const GridPlace place = geometry_.at(help->pos(), scroll());
     const bool known = geometry_.rows() == grid_.rows() && geometry_.cols() == grid_.cols();
     const bool inCell = known && cellRect(place.row, place.col).contains(help->pos());
     if (inCell && place.row > 0 && place.col > 0 && isCut(look(), place)) {

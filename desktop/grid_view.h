@@ -49,20 +49,20 @@ class GridView : public QAbstractScrollArea {
     QPoint scroll() const;
     QSize room() const;
     void updateScrollBars();
-    void keepInView(CellPlace place);
+    void keepInView(GridPlace place);
     void act(const std::function<void()>& action);
-    void highlight(CellPlace from, CellPlace to);
-    void highlightStill(CellPlace from, CellPlace to);
-    void pressAt(CellPlace place, bool extends);
-    void selectLine(CellPlace head, bool extends);
+    void highlight(GridPlace from, GridPlace to);
+    void highlightStill(GridPlace from, GridPlace to);
+    void pressAt(GridPlace place, bool extends);
+    void selectLine(GridPlace head, bool extends);
     void resizeColumn(int right);
     bool moveKey(QKeyEvent* event);
     bool commandKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
     void typed(const QString& text);
     void enter();
-    CellPlace movedBy(const QKeyEvent& event, CellPlace from) const;
-    CellPlace far() const;
+    GridPlace movedBy(const QKeyEvent& event, GridPlace from) const;
+    GridPlace far() const;
     int pageRows() const;
     bool hasCells() const { return grid_.rows() > 1 && grid_.cols() > 1; }
 
@@ -70,8 +70,8 @@ class GridView : public QAbstractScrollArea {
     DataGrid& grid_;
     GridGeometry geometry_;
     QFont font_;
-    CellPlace kept_{-1, -1}; ///< the far corner of the highlight when it was last brought into view
-    CellPlace pressed_;
+    GridPlace kept_{-1, -1}; ///< the far corner of the highlight when it was last brought into view
+    GridPlace pressed_;
     double pixelsOfTwip_ = 1;
     int resized_ = -1;   ///< the column whose edge is being dragged
     bool still_ = false; ///< a whole column or row is marked: nothing scrolls for its far end

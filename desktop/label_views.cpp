@@ -1,8 +1,9 @@
 #include "desktop/label_views.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QGroupBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <memory>
 
 #include "desktop/drawing.h"
@@ -15,9 +16,12 @@ namespace {
 constexpr int frameTitleInset = 16;      // pixels at both sides of a frame's title together
 constexpr double frameTitleHeight = 240; // twips of the design that a frame's controls leave free
 
-/// The text with places to break at behind the separators of a path, which may be longer than a line.
-QString breakable(const std::string& caption) {
-    return qtText(caption).replace("/", "/\u200B");
+/// The text, with places to break at behind the separators of a path where one is longer than a line.
+QString breakable(const QString& text, const QFont& font, int width) {
+    const QFontMetricsF metrics(font);
+    for (const QString& word : text.split(QRegularExpression("\\s")))
+        if (metrics.horizontalAdvance(word) > width) return QString(text).replace("/", "/\u200B");
+    return text;
 }
 
 Qt::Alignment qtAlignment(Alignment alignment) {
@@ -39,7 +43,9 @@ LabelView::LabelView(ViewContext& context, Label& label, QWidget* parent)
 }
 
 void LabelView::syncContent(const Layout& layout) {
-    const QString text = breakable(data_.caption);
+    const double size = data_.fontSize * context().form().scale().x * layout.zoom;
+    const QString text =
+        breakable(qtText(data_.caption), qtFont({.size = size, .bold = data_.bold}), label_.width());
     const QFont font = fittedFont(text, label_.size(), Qt::TextWordWrap, layout);
     if (label_.text() != text) label_.setText(text);
     if (label_.font() != font) label_.setFont(font);

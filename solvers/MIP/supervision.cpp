@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <ctime>
 #include <memory>
@@ -20,6 +21,7 @@ using miprog::SolverInput;
 
 namespace {
 
+constexpr double lastResortSeconds = 4 * graceSeconds;
 constexpr long pollNanoseconds = 5'000'000;
 
 sigset_t interrupts() {
@@ -141,6 +143,8 @@ void takeSignals() {
 
 Outcome supervise(const SolverInput& input, const Limits& limits) {
     const auto start = Clock::now();
+    // The last resort: a crash may leave the library's locks held, and the report made beforehand stands then.
+    alarm(static_cast<unsigned>(std::ceil(limits.seconds + lastResortSeconds)));
     Search search = searchWatched(input, limits, Care::Usual);
     if (search.end == Watch::Crashed) {
         const std::optional<Solution> found = search.outcome.solution;

@@ -169,6 +169,22 @@ TEST_F(FormWindowTest, NoCaptionIsWiderThanItsButton) {
     EXPECT_LE(QFontMetrics(button.font()).horizontalAdvance(button.text()), button.width());
 }
 
+TEST_F(FormWindowTest, ALabelKeepsItsFontWhereItsTextFitsAndShowsALongPathWhole) {
+    auto& label = open.widget<QLabel>(form.lblName);
+    form.lblName.design = {120, 120, 2000, 600};
+    form.lblName.caption = "rows and/or columns";
+    refresh();
+    EXPECT_EQ(label.text(), "rows and/or columns");
+    EXPECT_NEAR(label.font().pointSizeF(), 8, .01);
+    form.lblName.caption = "/home/planner/warehouses/north/data";
+    refresh();
+    const QRectF needed =
+        QFontMetricsF(label.font())
+            .boundingRect(QRectF(0, 0, label.width(), 1000), Qt::TextWordWrap, label.text());
+    EXPECT_LE(needed.width(), label.width() + 1);
+    EXPECT_LE(needed.height(), label.height() + 1);
+}
+
 TEST_F(FormWindowTest, TheTitleBarAsksTheForm) {
     open.window.close();
     EXPECT_EQ(form.log, "closed ");

@@ -12,12 +12,34 @@ begin() {
     width=${screen%x*} height=${screen#*x}
     printf '%s/\r\n %d           %d \r\n 1 \r\n' "$io" $((width / factor)) $((height / factor)) \
         >"$install/VANTORE.DRV"
-    Xvfb -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
-    server=$!
-    trap 'kill "${vantore:-}" "$server" 2>/dev/null || true' EXIT
-    await "a display" test -s "$work/display"
-    export DISPLAY=":$(cat "$work/display")" QT_SCALE_FACTOR=$factor LC_ALL=C.UTF-8 HOME=$work
+    trap end EXIT
+    start_display
+    export QT_SCALE_FACTOR=$factor LC_ALL=C.UTF-8 HOME=$work
     unset WAYLAND_DISPLAY QT_QPA_PLATFORM
+}
+
+# A display of a number that no other test has, or the next one that is free.
+start_display() {
+    for number in $(seq $((100 + $$ % 4000)) 4200); do
+        Xvfb ":$number" -screen 0 "${screen}x24" -nolisten tcp 2>"$work/xvfb.log" &
+        server=$!
+        export DISPLAY=":$number"
+        for _ in $(seq 100); do
+            kill -0 "$server" 2>/dev/null || break
+            if xdotool getdisplaygeometry >/dev/null 2>&1; then return 0; fi
+            sleep .1
+        done
+    done
+    fail "no display could be started"
+}
+
+# Ends what was started, the program before its display.
+end() {
+    for process in "${vantore:-}" "${server:-}"; do
+        [ -z "$process" ] && continue
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
+    done
 }
 
 start_program() {
