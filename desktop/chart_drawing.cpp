@@ -29,6 +29,8 @@ constexpr double lineWidth = 1.8;
 constexpr double barShare = .7; // of the distance between two bars
 constexpr int chartMargin = 8;  // pixels
 constexpr int mostTicks = 10;
+constexpr double pointsEdge = .03;  // of an axis, so that a point at its end is drawn whole
+constexpr double leastShare = 1E-6; // of a value: the length of an axis whose ends are equal
 
 QFont chartFont(double points, double scale, bool bold = false) {
     return qtFont({.family = "Arial", .size = points * scale, .bold = bold});
@@ -39,11 +41,22 @@ int tickDecimals(double tick) {
     return std::clamp(static_cast<int>(-std::floor(std::log10(tick) + 1e-9)), 0, 9);
 }
 
-QValueAxis* addAxis(QChart& chart, const ChartAxis& axis, Qt::Alignment side, double scale) {
+/// The ends of an axis as drawn: two that are equal are parted, and `edge` of the length is added at both
+/// ends.
+ChartAxis drawnAxis(const ChartAxis& axis, double edge) {
+    ChartAxis drawn = axis;
+    if (!(axis.high > axis.low)) drawn.high = axis.low + std::max(1.0, std::abs(axis.low) * leastShare);
+    const double margin = (drawn.high - drawn.low) * edge;
+    drawn.low -= margin;
+    drawn.high += margin;
+    return drawn;
+}
+
+QValueAxis* addAxis(QChart& chart, const ChartAxis& ends, Qt::Alignment side, double scale, double edge) {
     auto item = std::make_unique<QValueAxis>();
-    const double high = axis.high > axis.low ? axis.high : axis.low + 1;
-    const double tick = roundTick(axis.low, high, mostTicks);
-    item->setRange(axis.low, high);
+    const ChartAxis axis = drawnAxis(ends, edge);
+    const double tick = roundTick(axis.low, axis.high, mostTicks);
+    item->setRange(axis.low, axis.high);
     item->setTickType(QValueAxis::TicksDynamic);
     item->setTickAnchor(std::ceil(axis.low / tick) * tick);
     item->setTickInterval(tick);
@@ -140,8 +153,11 @@ void paintChart(QPainter& painter, const ChartData& data, QSizeF size, double sc
     chart.legend()->setVisible(data.series.size() > 1);
     chart.legend()->setAlignment(Qt::AlignBottom);
     chart.legend()->setFont(chartFont(tickSize, scale));
-    QValueAxis* x = addAxis(chart, data.x, Qt::AlignBottom, scale);
-    QValueAxis* y = addAxis(chart, data.y, Qt::AlignLeft, scale);
+    const bool points = std::ranges::any_of(
+        data.series, [](const ChartSeries& series) { return series.kind == SeriesKind::Points; });
+    const double edge = points ? pointsEdge : 0;
+    QValueAxis* x = addAxis(chart, data.x, Qt::AlignBottom, scale, edge);
+    QValueAxis* y = addAxis(chart, data.y, Qt::AlignLeft, scale, edge);
     addSeries(chart, data, x, y, scale);
     chart.resize(size);
     chart.layout()->activate();

@@ -1,14 +1,18 @@
 #include "mathprog/matrix_grid.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "shell/base/table.h"
+#include "shell/base/text.h"
 #include "shell/grid_rows.h"
 
 namespace vantore {
 
 namespace {
+
+constexpr double characterWidth = 96; // twips of the design
 
 /// Where a row or column of the old grid stands in the new one, -1 where it is cut off.
 int newPlace(int place, int oldCount, int newCount, int roles) {
@@ -82,6 +86,12 @@ void TypedReshape::operator()(DataGrid& grid, const std::string& typed, int rows
             const bool newCol = col >= oldBodyCols && col < cols - roleCols;
             if (newRow || newCol) grid.setCell(row, col, scratch.cell(row, col));
         }
+}
+
+double widthForText(std::string_view text, std::size_t room, double width) {
+    std::size_t longest = 0;
+    for (const std::string& line : lines(text)) longest = std::max(longest, length(line));
+    return longest <= room ? width : width + static_cast<double>(longest - room) * characterWidth;
 }
 
 void relationKeyPress(DataGrid& grid, int code) {

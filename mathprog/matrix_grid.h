@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "shell/forms/data_grid.h"
@@ -36,6 +38,10 @@ class TypedReshape {
     std::string typed_;
     std::vector<std::vector<std::string>> before_;
 };
+
+/// The width in twips of a column that shows a text: `width` has room for `room` characters, each further one
+/// of the longest line takes 96 twips more.
+double widthForText(std::string_view text, std::size_t room, double width);
 
 /// One key in a cell that holds a relation: "<", "=" and ">" are added to it, Escape clears the
 /// cell, Backspace takes off its last character, all others are ignored.

@@ -26,6 +26,7 @@ constexpr int roleColumns = 2;
 
 constexpr double headingColumnWidth = 1000; // twips of the design
 constexpr double columnWidth = 450;
+constexpr std::size_t columnCharacters = 3;
 
 } // namespace
 
@@ -86,17 +87,31 @@ void Lnprog::addReportButtons() {
 /// Gives the grid room for that many constraints and variables; the cells keep their row and column, the
 /// objective, the relations and the right-hand sides their role.
 void Lnprog::shapeGrid(int constraints, int variables) {
-    history().clear();
     reshapeMatrix(*Grid, constraints + roleRows + 1, variables + roleColumns + 1, roleRows, roleColumns);
+    showHeadings();
+}
+
+void Lnprog::showHeadings() {
+    const int constraints = constraintsShown();
+    const int variables = variablesShown();
+    history().clear();
     Grid->setRowHeight(0, 2 * designRowHeight);
     Grid->setCell(0, 0, "Variable\\\nContraint");
     Grid->setColWidth(0, headingColumnWidth);
     for (int j = 1; j <= variables; ++j) Grid->setCell(0, j, "X" + std::to_string(j));
     Grid->setCell(0, relationColumn(), "Type,\n<, =, >");
     Grid->setCell(0, rightSideColumn(), "RHS\nValue");
-    for (int col = 1; col < Grid->cols(); ++col) Grid->setColWidth(col, columnWidth);
     for (int i = 1; i <= constraints; ++i) Grid->setCell(i, 0, std::to_string(i));
     Grid->setCell(constraints + 1, 0, "Obj. coef.");
+    for (int col = 1; col < Grid->cols(); ++col) fitColumn(col);
+}
+
+/// A column is as wide as its longest text needs.
+void Lnprog::fitColumn(int col) {
+    double widest = columnWidth;
+    for (int row = 0; row < Grid->rows(); ++row)
+        widest = std::max(widest, widthForText(Grid->cell(row, col), columnCharacters, columnWidth));
+    Grid->setColWidth(col, widest);
 }
 
 /// The size typed into a box, where the grid is to take it. A size beyond the limit is refused with its
@@ -114,13 +129,17 @@ std::optional<int> Lnprog::sizeToTake(TextBox& box, int shown, int most, const s
 void Lnprog::takeRows() {
     const auto constraints = sizeToTake(*txtRows, constraintsShown(), mostConstraints,
                                         "Maximum number of rows (50) has been exceeded");
-    if (constraints) shapeGrid(*constraints, variablesShown());
+    if (!constraints) return;
+    typedRows_(*Grid, txtRows->text(), *constraints + roleRows + 1, Grid->cols(), roleRows, roleColumns);
+    showHeadings();
 }
 
 void Lnprog::takeColumns() {
     const auto variables = sizeToTake(*txtCols, variablesShown(), mostVariables,
                                       "Maximum number of columns (100) has been exceeded");
-    if (variables) shapeGrid(constraintsShown(), *variables);
+    if (!variables) return;
+    typedColumns_(*Grid, txtCols->text(), Grid->rows(), *variables + roleColumns + 1, roleRows, roleColumns);
+    showHeadings();
 }
 
 /// A size that was typed and not taken gives way to the grid's, so that it can't cut a Solve or a Save short.
@@ -137,11 +156,13 @@ void Lnprog::typeKey(int code) {
     if (inObjective && Grid->col() == rightSideColumn()) return;
     if (Grid->col() == relationColumn()) return relationKeyPress(*Grid, code);
     cellKeyPress(*Grid, code);
+    fitColumn(Grid->col());
 }
 
 void Lnprog::computeColumn() {
     columnArithmetic(suite(), *Grid, arithmetic,
                      [this](int col) { return col >= 1 && col != relationColumn(); });
+    for (int col = 1; col < Grid->cols(); ++col) fitColumn(col);
 }
 
 // The problem
@@ -156,6 +177,7 @@ void Lnprog::showProblem(const Problem& problem) {
     txtRows->setText(std::to_string(problem.constraints));
     txtCols->setText(std::to_string(problem.variables));
     shapeGrid(problem.constraints, problem.variables);
+    typedRows_ = typedColumns_ = {};
     for (int row = 1; row < Grid->rows(); ++row) Grid->clearRow(row);
     for (int i = 1; i <= problem.constraints; ++i) {
         Grid->setCell(i, relationColumn(), problem.rows(i).relation);
@@ -165,6 +187,7 @@ void Lnprog::showProblem(const Problem& problem) {
         for (int j = 1; j <= problem.variables; ++j)
             if (const auto& coefficient = problem.coefficients(i, j))
                 Grid->setCell(i, j, defaultText(*coefficient));
+    for (int col = 1; col < Grid->cols(); ++col) fitColumn(col);
 }
 
 void Lnprog::writeProblem(ItemWriter& writer) {

@@ -5,6 +5,7 @@
 
 #include "mathprog/LNPROG/method.h"
 #include "mathprog/LNPROG/problem.h"
+#include "mathprog/matrix_grid.h"
 #include "shell/module_frame.h"
 
 namespace vantore::lnprog {
@@ -33,6 +34,8 @@ class Lnprog : public ModuleFrame {
     void takeColumns();
     void showSizes();
     void shapeGrid(int constraints, int variables);
+    void showHeadings();
+    void fitColumn(int col);
     void showProblem(const Problem& problem);
     void typeKey(int code);
     void computeColumn();
@@ -53,6 +56,7 @@ class Lnprog : public ModuleFrame {
     TextBox* txtCols = nullptr;
     DataGrid* Grid = nullptr;
 
+    TypedReshape typedRows_, typedColumns_;
     bool sizesHeld_ = true; ///< From Open until Resize the size boxes don't change the grid.
     Simplex simplex_;       ///< Its `basis` lasts from solve to solve.
 };

@@ -31,20 +31,8 @@ constexpr int space = 32;      // character code
 // Widths in twips of the design.
 constexpr double columnWidth = 700;
 constexpr double rowHeadingWidth = 1000;
-constexpr double characterWidth = 96;
 constexpr std::size_t columnCharacters = 4;
 constexpr std::size_t rowHeadingCharacters = 5;
-
-double widthFor(std::size_t characters, std::size_t room, double width) {
-    return width + (characters > room ? static_cast<double>(characters - room) * characterWidth : 0);
-}
-
-/// The most characters on a line of a heading.
-std::size_t longestLine(const std::string& heading) {
-    std::size_t longest = 0;
-    for (const std::string& line : lines(heading)) longest = std::max(longest, length(line));
-    return longest;
-}
 
 constexpr const char* question =
     "Note:\r\n\r\n"
@@ -156,11 +144,12 @@ void MIPROG::showHeadings() {
 }
 
 void MIPROG::fitColumns() {
-    std::size_t longest = 0;
-    for (int row = 1; row < Grid->rows(); ++row) longest = std::max(longest, length(Grid->cell(row, 0)));
-    Grid->setColWidth(0, widthFor(longest, rowHeadingCharacters, rowHeadingWidth));
+    double widest = rowHeadingWidth;
+    for (int row = 1; row < Grid->rows(); ++row)
+        widest = std::max(widest, widthForText(Grid->cell(row, 0), rowHeadingCharacters, rowHeadingWidth));
+    Grid->setColWidth(0, widest);
     for (int col = 1; col < Grid->cols(); ++col)
-        Grid->setColWidth(col, widthFor(longestLine(Grid->cell(0, col)), columnCharacters, columnWidth));
+        Grid->setColWidth(col, widthForText(Grid->cell(0, col), columnCharacters, columnWidth));
 }
 
 void MIPROG::shape(int rows, int cols) {

@@ -109,7 +109,11 @@ void TRANLP::resize(TextBox& box, const char* excess) {
         const int places = toInt32(size - 1);
         checkIndex(places, 0, mostTypedRows);
         history().clear();
-        shapeGrid(&box == txtRows ? places : sources(), &box == txtCols ? places : sinks());
+        TypedReshape& typed = &box == txtRows ? typedRows_ : typedColumns_;
+        const int rows = &box == txtRows ? places + 2 : Grid->rows();
+        const int cols = &box == txtCols ? places + 2 : Grid->cols();
+        typed(*Grid, box.text(), rows, cols, 1, 1);
+        nameHeadings();
     } catch (...) {
         showSizes();
         throw;
@@ -118,13 +122,18 @@ void TRANLP::resize(TextBox& box, const char* excess) {
 
 /// Cells stay in their row and column, supplies and demands with their source and sink.
 void TRANLP::shapeGrid(int newSources, int newSinks) {
-    const int oldSources = sources();
-    const int oldSinks = sinks();
     reshapeMatrix(*Grid, newSources + 2, newSinks + 2, 1, 1);
-    for (int i = oldSources + 1; i <= newSources; ++i) Grid->setCell(i, 0, defaultSourceName(i));
-    for (int j = oldSinks + 1; j <= newSinks; ++j) Grid->setCell(0, j, defaultSinkName(j));
+    nameHeadings();
+}
+
+/// Sources and sinks that are new get their default names.
+void TRANLP::nameHeadings() {
+    for (int i = 1; i <= sources(); ++i)
+        if (Grid->cell(i, 0).empty()) Grid->setCell(i, 0, defaultSourceName(i));
+    for (int j = 1; j <= sinks(); ++j)
+        if (Grid->cell(0, j).empty()) Grid->setCell(0, j, defaultSinkName(j));
     Grid->setColWidth(0, nameWidth);
-    Grid->rowCount = newSources;
+    Grid->rowCount = sources();
     showLabels();
 }
 
@@ -202,6 +211,7 @@ void TRANLP::readProblem(ItemReader& reader) {
     const ProblemFile file = read(reader);
     txtProbLabel->setText(file.problem.label);
     clearGrid();
+    typedRows_ = typedColumns_ = {};
     shapeGrid(file.problem.sources, file.problem.sinks);
     putInCells(file);
     showSizes();

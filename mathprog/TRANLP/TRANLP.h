@@ -5,6 +5,7 @@
 #include "mathprog/TRANLP/method.h"
 #include "mathprog/TRANLP/problem.h"
 #include "mathprog/TRANLP/report.h"
+#include "mathprog/matrix_grid.h"
 #include "shell/module_frame.h"
 
 namespace vantore::tranlp {
@@ -33,6 +34,7 @@ class TRANLP : public ModuleFrame {
 
     void resize(TextBox& box, const char* excess);
     void shapeGrid(int newSources, int newSinks);
+    void nameHeadings();
     void clearGrid();
     void showSizes();
     void showLabels();
@@ -63,6 +65,7 @@ class TRANLP : public ModuleFrame {
         Plan plan;
     };
     std::optional<Solution> solution_;
+    TypedReshape typedRows_, typedColumns_;
     bool showsSizes_ = false; // the size boxes follow the grid, not the grid the boxes
 };
 
