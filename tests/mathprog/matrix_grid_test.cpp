@@ -81,6 +81,12 @@ TEST(TypedReshape, ForgetsWhatAnotherSizeCutOff) {
     EXPECT_EQ(grid.cell(2, 1), "");
 }
 
+TEST(WidthForText, GrowsWithTheLongestLine) {
+    EXPECT_EQ(widthForText("", 4, 700), 700);
+    EXPECT_EQ(widthForText("four", 4, 700), 700);
+    EXPECT_EQ(widthForText("Type,\r\n<, =, >", 4, 700), 700 + 3 * 96);
+}
+
 TEST(RelationKeyPress, TakesRelationsOnly) {
     DataGrid grid("Grid");
     for (const char code : {'a', '<', '5', '='}) relationKeyPress(grid, code);

@@ -45,10 +45,15 @@ TEST_F(LnprogWindow, ShowsTheFile) {
               "txtCols: visible enabled \"2\"\nLNPROG - <io>FLPDOCK.dat\n");
 }
 
-TEST_F(LnprogWindow, HasTheColumnWidthsOfItsDesign) {
+TEST_F(LnprogWindow, WidensTheColumnsOfItsDesignToTheirTexts) {
     const auto& grid = dynamic_cast<const DataGrid&>(*session.module().find("Grid"));
     EXPECT_EQ(grid.colWidth(0), 1000);
-    for (int col = 1; col < grid.cols(); ++col) EXPECT_EQ(grid.colWidth(col), 450);
+    EXPECT_EQ(grid.colWidth(2), 450);
+    EXPECT_EQ(grid.colWidth(grid.cols() - 2), 450 + 4 * 96); // "<, =, >" has four characters more than fit
+    session.play("cell Grid 1 2 12345.5");
+    EXPECT_EQ(grid.colWidth(2), 450 + 4 * 96);
+    session.play("cell Grid 1 2 7");
+    EXPECT_EQ(grid.colWidth(2), 450);
 }
 
 TEST_F(LnprogWindow, OffersInEachViewWhatBelongsThere) {
