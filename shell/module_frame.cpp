@@ -315,28 +315,50 @@ void ModuleFrame::printOn(PrintJob& job, const PrintLines& page) {
     for (const std::string& line : page.lines()) job.print(line, printedDataFont);
 }
 
+/// The window as it goes on paper: white and without these buttons. However the printing ends, the window is
+/// as before.
+class ModuleFrame::OnPaper {
+  public:
+    OnPaper(ModuleFrame& frame, std::vector<Button*> buttons) : frame_(frame), buttons_(std::move(buttons)) {
+        show(false, colour::brightWhite);
+    }
+    ~OnPaper() { show(true, buttonFace); }
+    OnPaper(const OnPaper&) = delete;
+    OnPaper& operator=(const OnPaper&) = delete;
+
+  private:
+    void show(bool buttonsShown, int colour) {
+        for (Button* button : buttons_) button->visible = buttonsShown;
+        frame_.backColour = colour;
+    }
+
+    ModuleFrame& frame_;
+    std::vector<Button*> buttons_;
+};
+
+void ModuleFrame::printWindow() {
+    try {
+        PrintJob job{.title = names_.name};
+        printPictureToFitPage(job, suite_.platform.printer, captureClient(suite_.platform.display, *this));
+        print(job);
+    } catch (const RuntimeError&) {
+        if (printFailure.empty()) throw;
+        message(printFailure);
+    }
+}
+
+void ModuleFrame::printWindowReport(Button& printButton) {
+    const OnPaper paper(*this, {cmdContinue, &printButton});
+    message("Printing...  Click OK to continue");
+    printWindow();
+}
+
 void ModuleFrame::printPlotImage() {
     suite_.platform.display.setBusyPointer(false);
-    cmdContinue->visible = cmdPrintPlot->visible = false;
-    backColour = colour::brightWhite;
-    const auto restore = [this] {
-        backColour = buttonFace;
-        cmdContinue->visible = cmdPrintPlot->visible = true;
-    };
-    try {
-        suite_.platform.clipboard.clear();
-        suite_.platform.clipboard.setPicture(captureClient(suite_.platform.display, *this));
-        if (suite_.asksYes(printQuestion.text, printQuestion.title) == printQuestion.yesPrints) {
-            PrintJob job{.title = names_.name};
-            printPictureToFitPage(job, suite_.platform.printer,
-                                  captureClient(suite_.platform.display, *this));
-            print(job);
-        }
-    } catch (...) {
-        restore();
-        throw;
-    }
-    restore();
+    const OnPaper paper(*this, {cmdContinue, cmdPrintPlot});
+    suite_.platform.clipboard.clear();
+    suite_.platform.clipboard.setPicture(captureClient(suite_.platform.display, *this));
+    if (suite_.asksYes(printQuestion.text, printQuestion.title) == printQuestion.yesPrints) printWindow();
 }
 
 // Solvers

@@ -85,6 +85,10 @@ class ModuleFrame : public Form {
     void deleteRow();
     void continueToData();
     void printPlotImage();
+
+    /// Prints the window as it stands, for a report that is a picture.
+    void printWindowReport(Button& printButton);
+
     void reportRuntimeError(const std::string& errorText, const std::string& place);
 
     /// Starts a solver program of `installFolder` and waits for its end while the window stays alive, its
@@ -173,6 +177,8 @@ class ModuleFrame : public Form {
     };
     PrintQuestion printQuestion;
 
+    std::string printFailure; ///< told in place of a run-time error when the plot can't be printed
+
     std::string exitTitle; ///< of the question "Save data?"; the module's name unless it sets another
 
     Button* cmdOpen = nullptr;
@@ -199,7 +205,9 @@ class ModuleFrame : public Form {
         std::vector<View> views;
     };
     class SolverRun;
+    class OnPaper;
 
+    void printWindow();
     std::string readOrCreate();
     std::optional<std::string> chooseSaveName();
     void setCurrentFile(const std::string& path);

@@ -34,6 +34,7 @@ const Font printedFont{"Courier New", 12, false};
 } // namespace
 
 FORECAST::FORECAST(Suite& suite) : ModuleFrame(suite, moduleNames) {
+    printFailure = "The form can't be printed.";
     addFields();
     addModels();
     addSeries();
@@ -134,7 +135,7 @@ void FORECAST::addOutcomeButtons() {
     cmdPrintTB =
         &addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
     cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlot(); });
+        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
 }
 
 void FORECAST::changeRows(const std::function<void()>& operation) {
@@ -263,14 +264,6 @@ ChartData FORECAST::askedChart() {
 void FORECAST::plot() {
     grfPlot->data = askedChart();
     showView(View::Plot);
-}
-
-void FORECAST::printPlot() {
-    try {
-        printPlotImage();
-    } catch (const RuntimeError&) {
-        message("The form can't be printed.");
-    }
 }
 
 } // namespace vantore::forecast

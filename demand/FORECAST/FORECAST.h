@@ -38,7 +38,6 @@ class FORECAST : public ModuleFrame {
     void solve();
     void printData();
     void plot();
-    void printPlot();
 
     Problem readControls() const;
     Model chosenModel() const;

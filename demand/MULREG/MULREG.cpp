@@ -42,6 +42,7 @@ std::string variableCaption(const char* before, int column) {
 } // namespace
 
 MULREG::MULREG(Suite& suite) : ModuleFrame(suite, moduleNames) {
+    printFailure = "The form can't be printed.";
     arithmetic.oneColumn.title = "FORECAST";
     printQuestion.text =
         "Select YES to print.  For a higher resolution picture, choose NO. Then, paste, edit, and print the "
@@ -142,7 +143,7 @@ void MULREG::addOutcome() {
                              [this] { continueToData(); });
     addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
     cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlot(); });
+        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
 }
 
 // The problem and the controls
@@ -305,15 +306,6 @@ void MULREG::plotData() {
     if (*x == *y) return message("Both variables are the same.  Plot is not meaningful.");
     grfPlot->data = dataPlot(readControls(), *y, *x);
     showView(View::Plot);
-}
-
-void MULREG::printPlot() {
-    try {
-        printPlotImage();
-    } catch (const RuntimeError&) {
-        // Without a printer the picture is on the clipboard all the same.
-        message("The form can't be printed.");
-    }
 }
 
 } // namespace vantore::mulreg

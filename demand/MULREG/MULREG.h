@@ -35,7 +35,6 @@ class MULREG : public ModuleFrame {
     void printData();
     void plotData();
     std::optional<int> askColumn(const std::string& prompt);
-    void printPlot();
 
     Problem readControls() const;
 

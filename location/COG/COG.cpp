@@ -3,7 +3,6 @@
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
-#include "shell/capture.h"
 
 namespace vantore::cog {
 
@@ -81,8 +80,8 @@ void COG::addButtons() {
     addButton("cmdExcel", "&Excel edit", buttonPlace(1, 3), {View::Data}, [this] { excelEdit(); });
     cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report, View::Plot},
                              [this] { continueToData(); });
-    cmdPrintTB =
-        &addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReport(); });
+    cmdPrintTB = &addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report},
+                            [this] { printWindowReport(*cmdPrintTB); });
     cmdPlot = &addButton("cmdPlot", "P&lot", buttonPlace(1, 2), {View::Report}, [this] { plot(); });
     cmdPrintPlot =
         &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
@@ -195,25 +194,6 @@ void COG::specifyLocation(const Problem& problem) {
 }
 
 // Report and plot
-
-void COG::printReport() {
-    cmdContinue->visible = cmdPrintTB->visible = false;
-    backColour = colour::brightWhite;
-    const auto restore = [this] {
-        backColour = buttonFace;
-        cmdContinue->visible = cmdPrintTB->visible = true;
-    };
-    try {
-        message("Printing...  Click OK to continue");
-        PrintJob job{.title = "COG"};
-        printPictureToFitPage(job, suite().platform.printer, captureClient(suite().platform.display, *this));
-        print(job);
-    } catch (...) {
-        restore();
-        throw;
-    }
-    restore();
-}
 
 void COG::printData() {
     const Problem problem = readControls();

@@ -29,7 +29,6 @@ class COG : public ModuleFrame {
     void solve();
     void computeLocation(const Problem& problem);
     void specifyLocation(const Problem& problem);
-    void printReport();
     void printData();
     void plot();
 
