@@ -18,10 +18,11 @@ begin() {
     unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 }
 
-# A display of a number that no other test has, or the next one that is free.
+# A display of a number that no other test has, or the next one that is free. It must not start over (-noreset) when
+# the last client leaves: whoever comes just then is turned away.
 start_display() {
     for number in $(seq $((100 + $$ % 4000)) 4200); do
-        Xvfb ":$number" -screen 0 "${screen}x24" -nolisten tcp 2>"$work/xvfb.log" &
+        Xvfb ":$number" -screen 0 "${screen}x24" -noreset -nolisten tcp 2>"$work/xvfb.log" &
         server=$!
         export DISPLAY=":$number"
         for _ in $(seq 100); do
