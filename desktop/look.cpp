@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QStyle>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QWidget>
+#include <algorithm>
+#include <memory>
 
 #include "desktop/fonts.h"
 #include "desktop/picture_view.h"
@@ -13,11 +16,31 @@ namespace vantore {
 namespace {
 
 constexpr double dialogFontSize = 9; // points; of the file and print dialogs
+constexpr double markShare = .8;     // of a line's height: the mark of an option or check box
+
+/// Marks as large as the text beside them, however large the screen makes it.
+class SuiteStyle : public QProxyStyle {
+  public:
+    SuiteStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight: break;
+        default: return usual;
+        }
+        if (widget == nullptr) return usual;
+        return std::max(usual, static_cast<int>(markShare * widget->fontMetrics().height()));
+    }
+};
 
 } // namespace
 
 void setLook() {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(std::make_unique<SuiteStyle>().release()); // the application's own
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setWindowIcon(QIcon(pictureFile("icon")));
     substituteFonts();
