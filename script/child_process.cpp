@@ -8,13 +8,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace vantore {
 
 namespace {
 
-class ChildProcess : public RunningProgram {
+class ChildProcess final : public RunningProgram {
   public:
     explicit ChildProcess(pid_t id) : id_(id) {}
     ~ChildProcess() override {
@@ -43,6 +41,7 @@ class ChildProcess : public RunningProgram {
 /// name.
 std::vector<std::string> environmentWith(const std::vector<Programs::Variable>& added) {
     std::vector<std::string> result;
+    result.reserve(added.size());
     for (const auto& variable : added) result.push_back(variable.name + "=" + variable.value);
     for (char** entry = environ; *entry != nullptr; ++entry) {
         const std::string_view text(*entry);
@@ -69,6 +68,7 @@ std::unique_ptr<RunningProgram> startProcess(const std::filesystem::path& progra
     if (access(program.c_str(), X_OK) != 0 || std::filesystem::is_directory(program)) return nullptr;
     std::vector<std::string> variables = environmentWith(added);
     std::vector<char*> environment;
+    environment.reserve(variables.size() + 1);
     for (std::string& variable : variables) environment.push_back(variable.data());
     environment.push_back(nullptr);
     std::string path = program.string();

@@ -46,7 +46,9 @@ FORECAST::FORECAST(Suite& suite) : ModuleFrame(suite, moduleNames) {
 // Controls
 
 TextBox& FORECAST::addField(const std::string& name, const std::string& prompt) {
-    const double top = fieldsTop + fieldStep * static_cast<double>(controls().size() / 2 - 1);
+    // Each field before it has added a label and a box, the problem's label first of all.
+    const std::size_t fieldsBefore = controls().size() / 2 - 1;
+    const double top = fieldsTop + fieldStep * static_cast<double>(fieldsBefore);
     addLabel("lbl" + name.substr(3), prompt, {120, top + 30, 4080, 270}, {View::Start, View::Data});
     return addTextBox(name, {4260, top, 960, 300});
 }

@@ -39,20 +39,23 @@ void printFit(PrintLines& page, const Problem& problem, const Forecast& forecast
 }
 
 void printForecast(PrintLines& page, const Forecast& forecast) {
-    const auto first = static_cast<double>(forecast.setting.dataPeriods + 1);
-    const auto last = static_cast<double>(forecast.setting.lastForecast());
+    const long long first = forecast.setting.dataPeriods + 1;
+    const long long last = forecast.setting.lastForecast();
+    const auto number = [](long long period) { return defaultText(static_cast<double>(period)); };
     page.line("").line("* THE FORECAST");
     page.line(" MAD = " + format(forecast.errors.mad, "###,###.#0") +
               " BIAS = " + format(forecast.errors.bias, "###,###.#0") +
               " RMSE = " + format(forecast.errors.rmse, "###,###.#0"));
     if (forecast.setting.forecastPeriods == 1)
-        page.line(" The forecast for period " + defaultText(first) + " is:");
+        page.line(" The forecast for period " + number(first) + " is:");
     else
-        page.line(" The forecasts for periods " + defaultText(first) + " to " + defaultText(last) + " are:");
+        page.line(" The forecasts for periods " + number(first) + " to " + number(last) + " are:");
     page.line(" Period        Forecast");
-    for (double t = first; t <= last; ++t) {
-        const double value = forecast.series.fitted(static_cast<long long>(t));
-        page.right(6, format(t, "#####0")).right(24, format(value, "###,###,###.#0")).endLine();
+    for (long long t = first; t <= last; ++t) {
+        const double value = forecast.series.fitted(t);
+        page.right(6, format(static_cast<double>(t), "#####0"))
+            .right(24, format(value, "###,###,###.#0"))
+            .endLine();
     }
 }
 

@@ -16,7 +16,7 @@ constexpr const char* costMask = "#,###,###.#0";
 
 /// A value as a 32-bit float holds it.
 double inSinglePrecision(double value) {
-    const float single = static_cast<float>(value);
+    const auto single = static_cast<float>(value);
     if (single > std::numeric_limits<float>::max() || single < std::numeric_limits<float>::lowest())
         throw RuntimeError(ErrorNumber::Overflow);
     return static_cast<double>(single);

@@ -72,9 +72,10 @@ class Table2 {
     static_assert(FirstRow <= LastRow && FirstCol <= LastCol);
 
   public:
-    Table2() : items_(static_cast<std::size_t>(LastRow - FirstRow + 1) * columns) {}
+    Table2() : items_(rows * columns) {}
 
-    static constexpr std::size_t columns = static_cast<std::size_t>(LastCol - FirstCol + 1);
+    static constexpr auto rows = static_cast<std::size_t>(LastRow - FirstRow + 1);
+    static constexpr auto columns = static_cast<std::size_t>(LastCol - FirstCol + 1);
 
     T& operator()(long long row, long long col) { return items_[place(row, col)]; }
     const T& operator()(long long row, long long col) const { return items_[place(row, col)]; }
