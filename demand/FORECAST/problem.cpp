@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "shell/base/number_text.h"
-#include "shell/base/text.h"
 
 namespace vantore::forecast {
 
@@ -160,8 +159,7 @@ void write(const Problem& problem, ItemWriter& writer) {
     writer.number(problem.seasonalLength).number(problem.forecastPeriods).endLine();
     writer.number(problem.dataPeriods).endLine();
     for (int t = 1; t <= problem.dataPeriods; ++t) {
-        const std::string label = trimmed(problem.periods(t).label);
-        writer.string(label.empty() ? " " : label).number(problem.periods(t).value).endLine();
+        writer.label(problem.periods(t).label).number(problem.periods(t).value).endLine();
     }
 }
 

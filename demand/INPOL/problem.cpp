@@ -97,8 +97,7 @@ void write(const Problem& problem, ItemWriter& writer) {
     for (const ProductTable& table : productTables)
         for (int i = 1; i <= problem.productCount; ++i) {
             const Product& product = problem.products(i);
-            const std::string label = trimmed(product.*table.label);
-            writer.string(label.empty() ? " " : label);
+            writer.label(product.*table.label);
             for (const auto value : table.values) writer.number(product.*value);
             writer.endLine();
         }

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "shell/base/number_text.h"
-#include "shell/base/text.h"
 
 namespace vantore::cog {
 
@@ -67,9 +66,12 @@ void write(const Problem& problem, ItemWriter& writer) {
     writer.number(problem.rowCount).endLine();
     for (int i = 1; i <= problem.rowCount; ++i) {
         const Point& point = problem.points(i);
-        const std::string label = trimmed(point.label);
-        writer.string(label.empty() ? " " : label);
-        writer.number(point.x).number(point.y).number(point.volume).number(point.rate).endLine();
+        writer.label(point.label)
+            .number(point.x)
+            .number(point.y)
+            .number(point.volume)
+            .number(point.rate)
+            .endLine();
     }
 }
 

@@ -6,11 +6,6 @@ namespace vantore::miprog {
 
 namespace {
 
-std::string labelItem(const std::string& label) {
-    const std::string text = trimmed(label);
-    return text.empty() ? " " : text;
-}
-
 /// "0,1" without its quotes is two items.
 std::string readType(ItemReader& reader) {
     std::string type = reader.readString();
@@ -81,12 +76,12 @@ Problem read(ItemReader& reader) {
 void write(const Problem& problem, ItemWriter& writer) {
     writer.string(problem.label).string(problem.maximize ? "MAX" : "MIN").endLine();
     writer.number(problem.m).number(problem.n).endLine();
-    for (int j = 1; j <= problem.n; ++j) writer.string(labelItem(problem.columnLabel(j)));
+    for (int j = 1; j <= problem.n; ++j) writer.label(problem.columnLabel(j));
     // An empty line would read as an item, so a problem without variables has no line for them.
     if (problem.n > 0) writer.endLine();
     writeTypes(problem, writer);
     for (int i = 1; i <= problem.m; ++i) {
-        writer.string(labelItem(problem.rowLabel(i)));
+        writer.label(problem.rowLabel(i));
         for (int j = 1; j <= problem.n; ++j) writer.number(problem.coef(i, j));
         writer.string(problem.relation(i)).number(problem.rhs(i)).endLine();
     }

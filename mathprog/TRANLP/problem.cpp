@@ -1,17 +1,11 @@
 #include "mathprog/TRANLP/problem.h"
 
-#include "shell/base/text.h"
 
 namespace vantore::tranlp {
 
 namespace {
 
 constexpr int newPlaces = 4; // sources and sinks of a new problem
-
-void writePlace(ItemWriter& writer, const std::string& name, double units) {
-    const std::string bareName = trimmed(name);
-    writer.string(bareName.empty() ? " " : bareName).number(units).endLine();
-}
 
 /// A source's or sink's number in front of a cost.
 int readPlace(ItemReader& reader, int most) {
@@ -69,8 +63,10 @@ ProblemFile read(ItemReader& reader) {
 void write(const Problem& problem, ItemWriter& writer) {
     writer.string(problem.label).endLine();
     writer.number(problem.sources).number(problem.sinks).endLine();
-    for (int i = 1; i <= problem.sources; ++i) writePlace(writer, problem.sourceName(i), problem.supply(i));
-    for (int j = 1; j <= problem.sinks; ++j) writePlace(writer, problem.sinkName(j), problem.demand(j));
+    for (int i = 1; i <= problem.sources; ++i)
+        writer.label(problem.sourceName(i)).number(problem.supply(i)).endLine();
+    for (int j = 1; j <= problem.sinks; ++j)
+        writer.label(problem.sinkName(j)).number(problem.demand(j)).endLine();
     for (int i = 1; i <= problem.sources; ++i)
         for (int j = 1; j <= problem.sinks; ++j)
             if (problem.cost(i, j) != 0) writer.number(i).number(j).number(problem.cost(i, j)).endLine();

@@ -69,6 +69,11 @@ ItemWriter& ItemWriter::string(std::string_view text) {
     return plain("\"" + replaced(withoutLineEnds(text), "\"", "'") + "\"");
 }
 
+ItemWriter& ItemWriter::label(std::string_view text) {
+    const std::string bare = trimmed(text);
+    return string(bare.empty() ? " " : bare);
+}
+
 ItemWriter& ItemWriter::number(double value) {
     return plain(defaultText(value));
 }

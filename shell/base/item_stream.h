@@ -43,6 +43,9 @@ class ItemWriter {
     /// Writes a string in double quotes; a double quote inside becomes an apostrophe, a line end a blank.
     ItemWriter& string(std::string_view text);
 
+    /// Writes a row's label: without blanks at its ends, an empty one as one blank.
+    ItemWriter& label(std::string_view text);
+
     /// Writes a number as its default text.
     ItemWriter& number(double value);
 

@@ -54,6 +54,12 @@ TEST(ItemWriter, SeparatesItemsByCommas) {
     EXPECT_EQ(writer.text(), "\"Depot, north\",.5,-3\r\n1E+15\r\n");
 }
 
+TEST(ItemWriter, WritesALabelWithoutBlanksAtItsEnds) {
+    ItemWriter writer;
+    writer.label("  South gate ").label("").label("   ").endLine();
+    EXPECT_EQ(writer.text(), "\"South gate\",\" \",\" \"\r\n");
+}
+
 TEST(ItemWriter, KeepsStringsReadable) {
     ItemWriter writer;
     writer.string("5\" pipe\r\nlong").endLine();
