@@ -29,8 +29,6 @@ constexpr Rect startLabelPlace{120, 5730, 9360, 600};
 constexpr int labelColumn = 1;
 constexpr int valueColumn = 2;
 
-const Font printedFont{"Courier New", 12, false};
-
 } // namespace
 
 FORECAST::FORECAST(Suite& suite) : ModuleFrame(suite, moduleNames) {
@@ -247,9 +245,10 @@ void FORECAST::solve() {
 // Print and plot
 
 void FORECAST::printData() {
+    PrintLines title;
+    title.line("").line("                           FORECASTING DATA").line("");
     PrintJob job{.title = names().name};
-    for (const char* line : {"", "                           FORECASTING DATA", ""})
-        job.print(line, printedFont);
+    printOn(job, title);
     printOn(job, dataLines(readControls()));
     print(job);
 }

@@ -14,10 +14,13 @@ namespace {
 
 using namespace vantore;
 
+constexpr double lastResortSeconds = 4 * mip::graceSeconds; // behind the time limit, for search and report
+
 PrintLines solved(const std::filesystem::path& temporaryFile) {
     try {
         const miprog::SolverInput input = miprog::readTemporaryLines(readLines(temporaryFile));
         const mip::Limits limits;
+        mip::endAfter(limits.seconds + lastResortSeconds);
         return mip::report(input, mip::supervise(input, limits), limits);
     } catch (const std::exception& error) {
         return mip::reportWithoutProblem(error.what());

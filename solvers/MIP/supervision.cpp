@@ -21,7 +21,6 @@ using miprog::SolverInput;
 
 namespace {
 
-constexpr double lastResortSeconds = 4 * graceSeconds;
 constexpr long pollNanoseconds = 5'000'000;
 
 sigset_t interrupts() {
@@ -141,10 +140,13 @@ void takeSignals() {
     for (const int crash : {SIGABRT, SIGSEGV, SIGFPE, SIGILL, SIGBUS}) std::signal(crash, holdCrashedSearch);
 }
 
+void endAfter(double seconds) {
+    std::signal(SIGALRM, SIG_DFL);
+    alarm(static_cast<unsigned>(std::max(1.0, std::ceil(seconds))));
+}
+
 Outcome supervise(const SolverInput& input, const Limits& limits) {
     const auto start = Clock::now();
-    // The last resort: a crash may leave the library's locks held, and the report made beforehand stands then.
-    alarm(static_cast<unsigned>(std::ceil(limits.seconds + lastResortSeconds)));
     Search search = searchWatched(input, limits, Care::Usual);
     if (search.end == Watch::Crashed) {
         const std::optional<Solution> found = search.outcome.solution;

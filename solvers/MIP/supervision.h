@@ -17,4 +17,8 @@ Outcome supervise(const miprog::SolverInput& input, const Limits& limits);
 
 constexpr double graceSeconds = 3;
 
+/// Ends the program by SIGALRM after so many seconds, rounded up, at least 1: the last resort where a crash
+/// has left locks held that the report needs. The report made beforehand stands then.
+void endAfter(double seconds);
+
 } // namespace vantore::mip

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <csignal>
 #include <optional>
 #include <random>
 #include <thread>
+#include <unistd.h>
 
 #include "solvers/MIP/check.h"
 #include "solvers/MIP/solve.h"
@@ -279,6 +281,14 @@ TEST(Supervise, LeavesASearchAloneThatDoesNotEndInTime) {
     const Outcome outcome = supervise(marketSplit(), {.seconds = -graceSeconds});
     EXPECT_EQ(outcome.status, Status::TimeLimit);
     EXPECT_LT(outcome.seconds, 1);
+}
+
+TEST(EndAfter, EndsAProgramThatNothingElseEnds) {
+    const auto hang = [] {
+        endAfter(.5);
+        while (true) pause();
+    };
+    EXPECT_EXIT(hang(), testing::KilledBySignal(SIGALRM), "");
 }
 
 TEST(Solve, StopsWhenItIsToldTo) {
