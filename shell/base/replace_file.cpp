@@ -145,8 +145,10 @@ void replaceFile(const fs::path& path, std::string_view content) {
     if (!folderStatus || !S_ISDIR(folderStatus->st_mode)) throw RuntimeError(ErrorNumber::PathNotFound);
     const auto old = statusOf(target);
     if (old && !S_ISREG(old->st_mode)) throw RuntimeError(ErrorNumber::PathFileAccess);
-    if (old) requireWritable(target, *old);
-    requireWritable(folder, *folderStatus);
+    if (old) {
+        requireWritable(target, *old);
+        requireWritable(folder, *folderStatus);
+    }
     removeStaleTemporaries(target);
     writeBeside(target, old, content);
     flushFolder(folder);

@@ -115,16 +115,47 @@ TEST(ReplaceFile, NeverReplacesAWriteProtectedFile) {
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 }
 
-TEST(ReplaceFile, WritesNothingIntoAWriteProtectedFolder) {
+TEST(ReplaceFile, NeverReplacesAFileInAWriteProtectedFolder) {
     const TemporaryFolder folder;
     put(folder.path() / "COG.dat", "old");
     fs::permissions(folder.path(), fs::perms{0555});
     EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "COG.dat", "new"); }), ErrorNumber::PermissionDenied);
-    EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "COG2.dat", "new"); }),
-              ErrorNumber::PermissionDenied);
     fs::permissions(folder.path(), fs::perms{0755});
     EXPECT_EQ(get(folder.path() / "COG.dat"), "old");
     EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+/// A user without a superuser's rights, while it lives.
+class PlainUser {
+  public:
+    PlainUser() { changed_ = before_ == 0 && seteuid(nobody) == 0; }
+    ~PlainUser() {
+        if (changed_ && seteuid(before_) != 0) std::abort();
+    }
+    PlainUser(const PlainUser&) = delete;
+    PlainUser& operator=(const PlainUser&) = delete;
+
+  private:
+    static constexpr uid_t nobody = 65534;
+    uid_t before_ = geteuid();
+    bool changed_ = false;
+};
+
+TEST(ReplaceFile, WritesNothingWhereTheUserMayNot) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder.path() / "somebody's");
+    put(folder.path() / "somebody's" / "COG.dat", "old");
+    fs::permissions(folder.path(), fs::perms{0755});
+    fs::permissions(folder.path() / "somebody's", fs::perms{0555});
+    {
+        const PlainUser user;
+        for (const char* name : {"COG.dat", "COG2.dat"})
+            EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "somebody's" / name, "new"); }),
+                      ErrorNumber::PermissionDenied);
+    }
+    fs::permissions(folder.path() / "somebody's", fs::perms{0755});
+    EXPECT_EQ(get(folder.path() / "somebody's" / "COG.dat"), "old");
+    EXPECT_EQ(entriesIn(folder.path() / "somebody's"), 1U);
 }
 
 TEST(ReplaceFile, FollowsLinksAndKeepsThePermissions) {
