@@ -56,7 +56,7 @@ class Procedure {
     Step pass();
     void weigh();
     void fit(Step& step) const;
-    Term termOf(int k, double standardError) const;
+    Term termOf(int k, Number standardError) const;
     bool leaves(Step& step) const;
     bool enters(Step& step) const;
     bool isEndless();
@@ -108,13 +108,13 @@ void Procedure::weigh() {
 }
 
 void Procedure::fit(Step& step) const {
-    const double total = moments_.squares(y_);
-    const double residual = std::max(r_(y_, y_).value(), 0.0) * total; // below 0 by rounding only
+    const Number total = moments_.squares(y_);
+    const Number residual = std::max(r_(y_, y_).value(), 0.0) * total; // below 0 by rounding only
     step.degreesOfFreedom = df_;
     step.entered = std::max(n_ - df_ - 1, 1);
-    step.standardError = squareRoot(divide(residual, df_));
-    step.rSquare = 1 - divide(residual, total);
-    step.totalF = divide(divide(df_, step.entered) * step.rSquare, 1 - step.rSquare);
+    step.standardError = squareRoot(residual / df_);
+    step.rSquare = 1 - residual / total;
+    step.totalF = Number(df_) / step.entered * step.rSquare / (1 - step.rSquare);
     if (criteria_.positive) {
         step.rSquare = std::abs(step.rSquare);
         step.totalF = std::abs(step.totalF);
@@ -127,13 +127,13 @@ void Procedure::fit(Step& step) const {
     }
 }
 
-Term Procedure::termOf(int k, double standardError) const {
+Term Procedure::termOf(int k, Number standardError) const {
     Term term;
     term.variable = k;
     term.coefficient = r_(k, y_) * moments_.deviation(y_) / moments_.deviation(k);
     term.standardError =
-        divide(standardError * squareRoot(r_(k, k).value()), moments_.deviation(k) * squareRoot(n_ - 1));
-    term.tRatio = divide(term.coefficient.value(), term.standardError);
+        standardError * squareRoot(r_(k, k).value()) / (moments_.deviation(k) * squareRoot(n_ - 1));
+    term.tRatio = term.coefficient.value() / term.standardError;
     return term;
 }
 
@@ -213,13 +213,13 @@ double estimate(const Step& step, const Observations& observations, int i) {
     return value.value();
 }
 
-AnalysisOfVariance varianceOf(const Step& step, double deviation, int observationCount) {
+AnalysisOfVariance varianceOf(const Step& step, Number deviation, int observationCount) {
     AnalysisOfVariance result;
-    result.totalSquares = finite(deviation * deviation * (observationCount - 1));
-    result.regressionSquares = finite(result.totalSquares * step.rSquare);
+    result.totalSquares = deviation * deviation * (observationCount - 1);
+    result.regressionSquares = result.totalSquares * step.rSquare;
     result.residualSquares = result.totalSquares - result.regressionSquares;
-    result.regressionMean = divide(result.regressionSquares, step.entered);
-    result.residualMean = divide(result.residualSquares, step.degreesOfFreedom);
+    result.regressionMean = result.regressionSquares / step.entered;
+    result.residualMean = result.residualSquares / step.degreesOfFreedom;
     return result;
 }
 

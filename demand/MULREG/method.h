@@ -5,6 +5,7 @@
 
 #include "demand/MULREG/problem.h"
 #include "shell/base/double_double.h"
+#include "shell/base/number.h"
 
 namespace vantore::mulreg {
 
@@ -32,8 +33,8 @@ std::optional<Moments> momentsOf(const Observations& observations);
 struct Term {
     int variable = 0;
     DoubleDouble coefficient;
-    double standardError = 0;
-    double tRatio = 0;
+    Number standardError;
+    Number tRatio;
 };
 
 /// The equation at one pass, and how the pass ends.
@@ -47,9 +48,9 @@ struct Step {
 
     DoubleDouble intercept;
     std::vector<Term> terms; ///< in the order of the variables
-    double standardError = 0;
-    double rSquare = 0;
-    double totalF = 0;
+    Number standardError;
+    Number rSquare;
+    Number totalF;
     int degreesOfFreedom = 0; ///< of the residual
     int entered = 0;          ///< variables entered, 1 when there are none
     End end = End::Insufficient;
@@ -78,14 +79,14 @@ std::vector<Step> regress(const Moments& moments, int observationCount, int vari
 double estimate(const Step& step, const Observations& observations, int i);
 
 struct AnalysisOfVariance {
-    double regressionSquares = 0;
-    double residualSquares = 0;
-    double totalSquares = 0;
-    double regressionMean = 0;
-    double residualMean = 0;
+    Number regressionSquares;
+    Number residualSquares;
+    Number totalSquares;
+    Number regressionMean;
+    Number residualMean;
 };
 
 /// The analysis of variance of a step. `deviation` is that of the dependent variable.
-AnalysisOfVariance varianceOf(const Step& step, double deviation, int observationCount);
+AnalysisOfVariance varianceOf(const Step& step, Number deviation, int observationCount);
 
 } // namespace vantore::mulreg
