@@ -5,15 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "shell/base/message.h"
 #include "shell/forms/data_grid.h"
 #include "shell/suite.h"
 
 namespace vantore {
-
-/// A text and the title of its box.
-struct Message {
-    std::string text, title;
-};
 
 /// The wording of column arithmetic, which differs by module, and only the wording.
 struct ArithmeticWording {

@@ -75,18 +75,18 @@ void write(const Problem& problem, ItemWriter& writer) {
     }
 }
 
-std::optional<Fault> scalarFault(const Problem& problem) {
-    if (problem.powerFactor == 0) return Fault{"No power factor (T) has been specified.", "COG"};
-    if (problem.mapFactor == 0) return Fault{"No map scaling factor (K) has been specified.", "COG"};
-    if (problem.rowCount == 0) return Fault{"At least one point is needed in the problem.", "COG"};
+std::optional<Message> scalarFault(const Problem& problem) {
+    if (problem.powerFactor == 0) return Message{"No power factor (T) has been specified.", "COG"};
+    if (problem.mapFactor == 0) return Message{"No map scaling factor (K) has been specified.", "COG"};
+    if (problem.rowCount == 0) return Message{"At least one point is needed in the problem.", "COG"};
     return std::nullopt;
 }
 
-std::optional<Fault> pointFault(const Problem& problem) {
+std::optional<Message> pointFault(const Problem& problem) {
     for (int i = 1; i <= problem.rowCount; ++i)
         for (const Range& range : ranges) {
             const double value = problem.points(i).*range.value;
-            if (value < 0 || value > range.most) return Fault{joined(range.text, i), range.title};
+            if (value < 0 || value > range.most) return Message{joined(range.text, i), range.title};
         }
     return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "shell/base/item_stream.h"
+#include "shell/base/message.h"
 #include "shell/base/table.h"
 
 namespace vantore::cog {
@@ -38,15 +39,10 @@ Problem read(ItemReader& reader);
 /// Writes the items; labels without blanks at their ends, an empty one as one blank.
 void write(const Problem& problem, ItemWriter& writer);
 
-/// A text for the user and the title of its box.
-struct Fault {
-    std::string text, title;
-};
-
 /// The first of T, K and N that doesn't allow a solution.
-std::optional<Fault> scalarFault(const Problem& problem);
+std::optional<Message> scalarFault(const Problem& problem);
 
 /// The first point, in order, with a value out of range: X, Y, volume, rate.
-std::optional<Fault> pointFault(const Problem& problem);
+std::optional<Message> pointFault(const Problem& problem);
 
 } // namespace vantore::cog
