@@ -1,7 +1,6 @@
 #include "shell/module_frame.h"
 
 #include <algorithm>
-#include <chrono>
 #include <exception>
 #include <optional>
 #include <utility>
@@ -9,6 +8,7 @@
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "shell/capture.h"
+#include "shell/report_file.h"
 
 namespace vantore {
 
@@ -28,16 +28,10 @@ const Font printedBodyFont{"Courier New", 10, false};
 const Font printedDataTitleFont{"Arial", 14, false};
 const Font printedDataFont{"Courier New", 12, false};
 
-std::string elapsedText(std::chrono::steady_clock::duration elapsed) {
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(elapsed).count();
-    const std::string rest = std::to_string(seconds % 60);
-    return std::to_string(seconds / 60) + (rest.size() < 2 ? ":0" : ":") + rest;
-}
-
 } // namespace
 
 ModuleFrame::ModuleFrame(Suite& suite, ModuleNames names)
-    : Form(names.name, suite.scale()), suite_(suite), names_(std::move(names)) {
+    : Form(names.name, suite.scale()), solver(suite, *this), suite_(suite), names_(std::move(names)) {
     caption = names_.name;
     rowTitles.module = exitTitle = names_.name;
     arithmetic = ArithmeticWording::usual(names_.name);
@@ -232,7 +226,7 @@ void ModuleFrame::exitModule() {
 }
 
 void ModuleFrame::close() {
-    if (solver_) return interrupt();
+    if (solver.isRunning()) return interrupt();
     if (!closing_ && cmdExit != nullptr) run(*cmdExit, [this] { exitModule(); });
 }
 
@@ -267,7 +261,7 @@ void ModuleFrame::writeReportFile(const PrintLines& page, const std::string& nam
 }
 
 void ModuleFrame::showReportFile(const ReportStyle& style, const std::string& name) {
-    showReportLines(readLines(suite_.ioPath(name)), style);
+    showReportLines(readReport(suite_.ioPath(name)), style);
 }
 
 void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const ReportStyle& style) {
@@ -290,7 +284,7 @@ void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const R
 }
 
 void ModuleFrame::printReportFile() {
-    printReportLines(readLines(suite_.ioPath("OUTPUT.DAT")));
+    printReportLines(readReport(suite_.ioPath("OUTPUT.DAT")));
 }
 
 void ModuleFrame::printReportLines(const std::vector<std::string>& lines) {
@@ -363,46 +357,8 @@ void ModuleFrame::printPlotImage() {
 
 // Solvers
 
-/// What a window is like while a solver runs: the hourglass, no buttons. However the run ends, the window is
-/// as before, and no solver is left behind.
-class ModuleFrame::SolverRun {
-  public:
-    explicit SolverRun(ModuleFrame& frame) : frame_(frame), busy_(frame.suite_) {
-        for (const auto& control : frame.controls())
-            if (auto* button = dynamic_cast<Button*>(control.get()); button != nullptr && button->visible)
-                hidden_.push_back(button);
-        for (Button* button : hidden_) button->visible = false;
-    }
-    ~SolverRun() {
-        for (Button* button : hidden_) button->visible = true;
-        frame_.runningNote.clear();
-        frame_.solver_.reset();
-    }
-    SolverRun(const SolverRun&) = delete;
-    SolverRun& operator=(const SolverRun&) = delete;
-
-  private:
-    ModuleFrame& frame_;
-    Busy busy_;
-    std::vector<Button*> hidden_;
-};
-
-bool ModuleFrame::runSolver(const std::string& program) {
-    const SolverRun run(*this);
-    solver_ = suite_.platform.programs.start(suite_.installPath(program), pathOf(suite_.installFolder),
-                                             {{"VANTORE_IO", suite_.ioFolder}});
-    if (!solver_) return false;
-    const auto started = std::chrono::steady_clock::now();
-    while (solver_->running()) {
-        runningNote = program + " is running, " + elapsedText(std::chrono::steady_clock::now() - started) +
-                      ".  Press Ctrl+C to stop it with the best solution so far.";
-        suite_.platform.display.processEvents();
-    }
-    return true;
-}
-
 void ModuleFrame::interrupt() {
-    if (solver_) solver_->interrupt();
+    solver.interrupt();
 }
 
 } // namespace vantore

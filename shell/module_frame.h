@@ -13,6 +13,7 @@
 #include "shell/column_arithmetic.h"
 #include "shell/forms/form.h"
 #include "shell/grid_rows.h"
+#include "shell/solver_run.h"
 #include "shell/suite.h"
 
 namespace vantore {
@@ -91,9 +92,8 @@ class ModuleFrame : public Form {
 
     void reportRuntimeError(const std::string& errorText, const std::string& place);
 
-    /// Starts a solver program of `installFolder` and waits for its end while the window stays alive, its
-    /// buttons hidden. False when it could not be started.
-    bool runSolver(const std::string& program);
+    /// The runs of the module's solver program.
+    SolverRun solver;
 
     /// Writes a report to a file of `ioFolder`.
     void writeReportFile(const PrintLines& page, const std::string& name = "OUTPUT.DAT");
@@ -204,7 +204,6 @@ class ModuleFrame : public Form {
         Control* control;
         std::vector<View> views;
     };
-    class SolverRun;
     class OnPaper;
 
     void printWindow();
@@ -221,7 +220,6 @@ class ModuleFrame : public Form {
     std::vector<Control*> enabledByOpen_;
     std::unordered_map<const Control*, std::string> errorPlaces_;
     DataGrid* mainGrid_ = nullptr;
-    std::unique_ptr<RunningProgram> solver_;
     bool closing_ = false;
 };
 

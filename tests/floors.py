@@ -15,8 +15,9 @@ BELOW = {
     "demand": ["shell", "shell/forms", "shell/base"],
     "simulator": ["shell", "shell/forms", "shell/base"],
     "suite": ["shell", "shell/forms", "shell/base", "location", "routing", "mathprog", "demand", "simulator"],
-    "script": ["suite", "shell", "shell/forms", "shell/base", "desktop"],
-    "desktop": ["suite", "shell", "shell/forms", "shell/base"],
+    "processes": ["shell", "shell/forms", "shell/base"],
+    "script": ["processes", "suite", "shell", "shell/forms", "shell/base", "desktop"],
+    "desktop": ["processes", "suite", "shell", "shell/forms", "shell/base"],
     "solvers": ["shell/base", "location", "routing", "mathprog"],
 }
 CORE_FILES = re.compile(r"^(problem|method)[a-z_]*\.(h|cpp)$")

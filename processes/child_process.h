@@ -8,9 +8,10 @@
 
 namespace vantore {
 
-/// Starts a program without arguments in a folder, with variables added to this process's environment and no
-/// standard input; nullptr when it can't be started. The program ends with its owner: it is waited for, after
-/// an interrupt, when its RunningProgram goes.
+/// Starts a program without arguments in a folder, without input and with its output thrown away, with
+/// variables added to this process's environment; nullptr when it can't be started. The program and what it
+/// starts in turn are a group of their own. It ends with this process, and is killed when its RunningProgram
+/// goes before it has ended.
 std::unique_ptr<RunningProgram> startProcess(const std::filesystem::path& program,
                                              const std::filesystem::path& folder,
                                              const std::vector<Programs::Variable>& environment);
