@@ -13,25 +13,26 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t bytesOfCharacter = 4;         // in UTF-8, at most
-constexpr std::size_t mostBytes = 64 * 1024 * 1024; // of all lines together
+constexpr std::size_t bytesOfCharacter = 4; // in UTF-8, at most
+constexpr std::size_t mostLineBytes = mostLineCharacters * bytesOfCharacter + 1;
+constexpr std::size_t mostBytes = 16 * 1024 * 1024; // of all lines together
 
 /// Takes a file's bytes and keeps what is shown of them.
 class ShownPart {
   public:
     /// False when there is no room for more.
     bool take(char byte) {
-        if (lines_ == mostReportLines || kept_.size() >= mostBytes) {
+        const bool ends = byte == '\n' || byte == '\r';
+        const bool pairEnds = byte == '\n' && last_ == '\r';
+        last_ = byte;
+        if ((lines_ == mostReportLines && !pairEnds) || isFull(kept_.size(), mostBytes, byte)) {
             cut_ = true;
             return false;
         }
-        const bool ends = byte == '\n' || byte == '\r';
-        if (!(byte == '\n' && last_ == '\r') && ends) {
-            ++lines_;
-            inLine_ = 0;
-        }
-        if (ends || ++inLine_ <= mostLineCharacters * bytesOfCharacter + 1) kept_ += byte;
-        last_ = byte;
+        if (ends && !pairEnds) ++lines_;
+        if (ends) inLine_ = 0;
+        lineIsFull_ = !ends && (lineIsFull_ || isFull(inLine_++, mostLineBytes, byte));
+        if (!lineIsFull_) kept_ += byte;
         return true;
     }
 
@@ -46,10 +47,18 @@ class ShownPart {
     }
 
   private:
+    /// Cuts between two characters, not within one.
+    static bool isFull(std::size_t bytes, std::size_t most, char byte) {
+        constexpr unsigned marks = 0xC0;
+        constexpr unsigned continues = 0x80;
+        const bool within = (static_cast<unsigned char>(byte) & marks) == continues;
+        return bytes >= most + (within ? bytesOfCharacter - 1 : 0);
+    }
+
     std::string kept_;
     std::size_t lines_ = 0, inLine_ = 0;
     char last_ = 0;
-    bool cut_ = false;
+    bool lineIsFull_ = false, cut_ = false;
 };
 
 } // namespace

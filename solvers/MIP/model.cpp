@@ -103,6 +103,14 @@ Model exactModel(const SolverInput& input) {
     return model;
 }
 
+std::optional<int> variableWithoutWholeNumber(const Model& model) {
+    for (std::size_t j = 0; j < model.columnCount(); ++j) {
+        const Range& range = model.box[j];
+        if (range.lower && range.upper && *range.lower > *range.upper) return static_cast<int>(j) + 1;
+    }
+    return std::nullopt;
+}
+
 Model withoutObjective(Model model) {
     model.costs.assign(model.costs.size(), 0);
     return model;

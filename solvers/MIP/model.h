@@ -50,6 +50,9 @@ struct Model {
 /// The bounds of integer variables are taken to the whole numbers within them.
 Model exactModel(const miprog::SolverInput& input);
 
+/// The first variable (from 1) whose bounds have no whole number between them; nothing when each has.
+std::optional<int> variableWithoutWholeNumber(const Model& model);
+
 /// The same problem without its objective: all solutions are as good.
 Model withoutObjective(Model model);
 

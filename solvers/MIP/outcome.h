@@ -43,10 +43,11 @@ struct Halt {
 /// All that is to be reported of a run.
 struct Outcome {
     Status status = Status::Stopped;
-    std::optional<Halt> halt;             ///< why there is no more, unless the outcome is proved
-    std::optional<Solution> solution;     ///< It holds exactly.
-    std::optional<Relaxation> relaxation; ///< It is proved.
-    SearchProgress search;                ///< its bound in the problem's units
+    std::optional<Halt> halt;              ///< why there is no more, unless the outcome is proved
+    std::optional<int> withoutWholeNumber; ///< an integer variable (from 1) whose bounds hold none
+    std::optional<Solution> solution;      ///< It holds exactly.
+    std::optional<Relaxation> relaxation;  ///< It is proved.
+    SearchProgress search;                 ///< its bound in the problem's units
     long long proofNodes = 0;
     StageSeconds used;
 };

@@ -5,7 +5,6 @@
 #include "solvers/MIP/certificates.h"
 #include "solvers/MIP/floating_simplex.h"
 #include "solvers/MIP/point.h"
-#include "solvers/MIP/propagation.h"
 
 namespace vantore::mip {
 
@@ -45,7 +44,6 @@ void takeOptimum(Relaxation& relaxation, const Model& model, const ExactResult& 
 
 Relaxation relax(const Model& model) {
     Relaxation relaxation;
-    if (hasEmptyRange(model.box)) return relaxation;
     FloatingSimplex floating(model);
     floating.solve(model.box);
     ExactSimplex simplex(model);

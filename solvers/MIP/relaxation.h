@@ -18,7 +18,8 @@ struct Relaxation {
     std::vector<int> unlimited; ///< Unbounded: variables (from 1) along which the objective improves for ever
 };
 
-/// Solves it; each claim has been held against its certificate. std::logic_error where one doesn't hold.
+/// Solves it; each claim has been held against its certificate. std::logic_error where one doesn't hold. No
+/// variable's bounds may be empty.
 Relaxation relax(const Model& model);
 
 } // namespace vantore::mip

@@ -1,5 +1,7 @@
 #include "solvers/MIP/report.h"
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 #include <sstream>
 
@@ -124,21 +126,34 @@ void listPlaces(PrintLines& page, const std::string& lead, const std::vector<int
     wrap(page, lead + text + ".");
 }
 
+/// The relaxation takes the bounds of integer variables to whole numbers, which a user is told where it
+/// matters.
+std::string withFractions(const SolverInput& input) {
+    const auto isWholeNumber = [](double bound) { return bound == std::floor(bound); };
+    const auto integers = input.intIndex.span();
+    const bool wholeBounds = std::all_of(integers.begin(), integers.end(), [&](int j) {
+        return isWholeNumber(input.bounds(j).lower) && isWholeNumber(input.bounds(j).upper);
+    });
+    return std::string("when the integer variables may have fractions") +
+           (wholeBounds ? "" : ", their bounds taken to whole numbers");
+}
+
 /// What is known without the integer requirements, where that explains the status.
 void printReason(PrintLines& page, const SolverInput& input, const Outcome& outcome) {
-    const bool integers = input.intCount() > 0;
-    if (isInfeasible(outcome.relaxation)) {
-        if (integers)
-            wrap(page, "Nor is there one when the integer variables may have fractions within their bounds.");
+    if (outcome.withoutWholeNumber) {
+        const int j = *outcome.withoutWholeNumber;
+        wrap(page, "No whole number is within the bounds of variable " + std::to_string(j) + " (" +
+                       input.names(j) + ").");
+    } else if (isInfeasible(outcome.relaxation)) {
+        if (input.intCount() > 0) wrap(page, "Nor is there one " + withFractions(input) + ".");
         listPlaces(page, "Together with the bounds of the variables these constraints contradict each other:",
                    outcome.relaxation->conflict);
     } else if (outcome.status == Status::Infeasible) {
-        wrap(page, "There are solutions when the integer variables may have fractions.");
+        wrap(page, "There are solutions " + withFractions(input) + ".");
     }
     if (!isUnbounded(outcome.relaxation)) return;
     if (outcome.status != Status::Unbounded)
-        wrap(page, "The objective value can be improved without limit when the integer variables may have "
-                   "fractions.");
+        wrap(page, "The objective value can be improved without limit " + withFractions(input) + ".");
     listPlaces(page, "Variables that change without limit on the way:", outcome.relaxation->unlimited);
 }
 
@@ -245,9 +260,9 @@ void printRelaxation(PrintLines& page, const SolverInput& input, const Outcome& 
     if (!isOptimal(outcome.relaxation)) return;
     page.line("").line("CONTINUOUS RELAXATION");
     summaryLine(page, "Objective value of the relaxation", figure(outcome.relaxation->objective));
-    wrap(page, input.intCount() == 0 ? "There are no integer variables: the relaxation is the problem itself."
-                                     : "This is the optimum when the integer variables may have fractions "
-                                       "within their bounds, proved in exact arithmetic.");
+    wrap(page, input.intCount() == 0
+                   ? "There are no integer variables: the relaxation is the problem itself."
+                   : "This is the optimum " + withFractions(input) + ", proved in exact arithmetic.");
     wrap(page,
          "Reduced costs and dual values belong to it: the change of its objective value for one unit more "
          "of the variable or of the right side, so long as the same bounds and constraints bind.");

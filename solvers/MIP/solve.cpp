@@ -29,6 +29,8 @@ class Run {
   private:
     /// Goes through the stages until the outcome is known or the user has stopped one.
     void conclude() {
+        outcome_.withoutWholeNumber = variableWithoutWholeNumber(model_);
+        if (outcome_.withoutWholeNumber) return settle(Status::Infeasible);
         if (!relaxed()) return;
         if (const auto status = decidedByRelaxation()) return settle(*status);
         if (!searched()) return;
