@@ -475,7 +475,7 @@ class MulregDirect : public testing::Test {
     void press(const char* name) { window.press(*window.find(name)); }
 
     void answer(std::initializer_list<const char*> answers) {
-        for (const char* each : answers) user.queueAnswer(each);
+        for (const char* each : answers) user.queueAnswer({.text = each});
     }
 
     ModuleSession folders;

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <thread>
 
-#include "script/child_process.h"
+#include "processes/child_process.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "tests/solvers/MIP/problems.h"
