@@ -269,7 +269,7 @@ void printRelaxation(PrintLines& page, const SolverInput& input, const Outcome& 
 }
 
 std::string secondsText(double seconds) {
-    return seconds < 1 ? "less than 1" : format(seconds, "###,##0.0");
+    return format(seconds, "###,##0.00");
 }
 
 void printSearch(PrintLines& page, const Outcome& outcome, const StageSeconds& limits) {

@@ -33,8 +33,9 @@ class Run {
         if (outcome_.withoutWholeNumber) return settle(Status::Infeasible);
         if (!relaxed()) return;
         if (const auto status = decidedByRelaxation()) return settle(*status);
-        if (!searched()) return;
+        const bool ended = searched();
         if (isUnbounded() && outcome_.solution) return settle(Status::Unbounded);
+        if (!ended) return;
         if (outcome_.relaxation && proved()) return settle(statusOfProof());
         if (isUnbounded()) return;
         if (claim_ == SearchEnd::Optimal && outcome_.solution)
