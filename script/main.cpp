@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "script/script_player.h"
+#include "shell/base/install_folder.h"
 #include "shell/base/text_file.h"
 #ifdef VANTORE_DESKTOP
 #include "desktop/svg_file.h"
@@ -44,8 +45,6 @@ bool takeScreen(std::string_view text, vantore::ScriptSettings& settings) {
 
 std::optional<Arguments> parse(std::span<char*> words) {
     Arguments arguments;
-    arguments.settings.installFolder =
-        vantore::textOf(std::filesystem::read_symlink("/proc/self/exe").parent_path());
     for (std::size_t i = 1; i < words.size(); ++i) {
         const std::string_view word = words[i];
         const bool option = word == "--io" || word == "--install" || word == "--screen";
@@ -61,6 +60,9 @@ std::optional<Arguments> parse(std::span<char*> words) {
         if (word == "--screen" && !takeScreen(words[i], arguments.settings)) return std::nullopt;
     }
     if (arguments.script.empty()) return std::nullopt;
+    if (arguments.settings.installFolder.empty())
+        arguments.settings.installFolder =
+            vantore::installFolder(std::filesystem::read_symlink("/proc/self/exe").parent_path());
     return arguments;
 }
 
