@@ -32,7 +32,7 @@ build_preset() {
     tests=$2
     shift 2
     log=$(mktemp)
-    cmake --preset "$preset" -DVANTORE_TESTS="$tests" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
+    cmake --preset "$preset" -DBUILD_TESTING="$tests" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
     rm -f "$log"
     cmake --build --preset "$preset" "$@"
 }

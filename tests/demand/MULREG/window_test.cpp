@@ -184,7 +184,7 @@ TEST(MulregWindow, CountsAddedAndDeletedRows) {
     EXPECT_EQ(session.grid("grdObs").at(2), "2 | 3 | 5 | 0 | 0 | 0");
 }
 
-TEST(MulregWindow, TitlesItsColumnMessageAsItAlwaysDid) {
+TEST(MulregWindow, TitlesItsColumnMessageAsForecastDoes) {
     ModuleSession session;
     opened(session);
     EXPECT_EQ(session.play("select grdObs 1 1 2 2\npress cmdArith"),
