@@ -40,6 +40,7 @@ TEST(Proof, FindsTheBestSolutionByItself) {
 
 TEST(Proof, TellsOnlySolutionsThatAreBetter) {
     EXPECT_TRUE(proved(crates(), -22).costs.empty());
+    EXPECT_EQ(proved(crates(), -21).costs, std::vector<Rational>{-22});
     const Told told = proved(crates(), -20);
     ASSERT_FALSE(told.costs.empty());
     EXPECT_EQ(told.costs.back(), -22);

@@ -3,8 +3,10 @@
 #include <array>
 #include <cstdlib>
 #include <map>
+#include <optional>
 #include <random>
 
+#include "solvers/MIP/proof.h"
 #include "solvers/MIP/solve.h"
 #include "tests/solvers/MIP/enumeration.h"
 
@@ -67,6 +69,14 @@ class RandomProblems {
     std::vector<int> powers_;
 };
 
+/// The cost of the last solution that the proof alone comes to from a cost to be beaten.
+std::optional<Rational> provedFrom(const Model& model, const Rational& best) {
+    std::optional<Rational> found;
+    prove(model, best,
+          {[&](const ExactPoint& point) { found = costOf(model, point); }, [](long long /*nodes*/) {}});
+    return found;
+}
+
 Truth truthOf(Status status) {
     switch (status) {
     case Status::Optimal: return Truth::Optimal;
@@ -117,6 +127,12 @@ TEST_P(Random, AgreesWithTryingAllWholeNumbers) {
         ASSERT_EQ(truthOf(outcome.status), answer.truth) << "problem " << tried;
         if (answer.truth != Truth::Optimal) continue;
         ASSERT_EQ(outcome.solution->objective, answer.objective) << "problem " << tried;
+        // Nothing that the library says may help the proof to its answer.
+        const Model model = exactModel(input);
+        const Rational optimum = answer.objective * model.costScale;
+        ASSERT_EQ(provedFrom(model, optimum), std::nullopt) << "problem " << tried;
+        ASSERT_EQ(provedFrom(model, optimum + 1), optimum) << "problem " << tried;
+        ASSERT_EQ(provedFrom(model, optimum + 50), optimum) << "problem " << tried;
     }
     EXPECT_GT(seen[Truth::Optimal], wanted / 2);
     EXPECT_GT(seen[Truth::Infeasible], 0);

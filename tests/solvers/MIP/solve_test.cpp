@@ -205,6 +205,17 @@ TEST(Solve, LooksBeyondWhatTheLibraryIsToldToSearch) {
     EXPECT_EQ(outcome.solution->objective, exact(1E+12));
 }
 
+TEST(Solve, ImprovesWhatTheLibraryFoundInItsPart) {
+    // v1 may go up to 1E+12, which the two rows tell only together
+    const Outcome outcome = solved({.objective = {2E+06, 0},
+                                    .rows = {{3, -1}, {-1, 1}},
+                                    .relations = "<<",
+                                    .rhs = {2E+12, 0},
+                                    .integers = {1, 2}});
+    ASSERT_EQ(outcome.status, Status::Optimal);
+    EXPECT_EQ(outcome.solution->objective, exact(2E+18));
+}
+
 // Stages that don't come to their end
 
 TEST(Solve, GivesTheBestSolutionOfASearchThatHadNoTime) {
