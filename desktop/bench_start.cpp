@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "desktop/desktop_session.h"
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
 #include "shell/base/driver_file.h"

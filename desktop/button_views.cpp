@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

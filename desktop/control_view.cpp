@@ -5,7 +5,7 @@
 
 #include "desktop/button_views.h"
 #include "desktop/drawing_view.h"
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "desktop/grid_view.h"
 #include "desktop/label_views.h"
 #include "desktop/picture_view.h"

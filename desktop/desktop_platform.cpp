@@ -9,10 +9,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/drawing_export.h"
-#include "desktop/exports.h"
+#include "drawing/drawing_export.h"
 #include "desktop/file_dialogs.h"
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
+#include "desktop/print_preview.h"
 #include "desktop/printing.h"
 #include "desktop/programs.h"
 #include "shell/dialog_form.h"
@@ -50,6 +50,12 @@ void placeDialog(FormWindow& window, const DialogForm& dialog, double zoom) {
     const auto top = static_cast<int>(dialog.top / twipsPerPixel);
     window.setFixedSize(size);
     window.move(left + (design.width() - size.width()) / 2, top + (design.height() - size.height()) / 2);
+}
+
+/// What the window's surfaces and charts show, for paper; nullptr where it has none.
+std::shared_ptr<const Drawing> drawingOf(const Form& form) {
+    auto drawing = Drawing::ofWindow(form);
+    return drawing ? std::make_shared<const Drawing>(std::move(*drawing)) : nullptr;
 }
 
 } // namespace
@@ -143,7 +149,9 @@ CapturedPicture DesktopPlatform::capture(const Form& form, const PixelRect& area
     if (window == nullptr) return {};
     window->refresh();
     const QImage client = window->canvas().grab().toImage();
-    return pictureOf(client.copy(area.left, area.top, area.width, area.height));
+    CapturedPicture picture = pictureOf(client.copy(area.left, area.top, area.width, area.height));
+    if (area == clientArea(form)) picture.drawing = drawingOf(form);
+    return picture;
 }
 
 void DesktopPlatform::setBusyPointer(bool busy) {

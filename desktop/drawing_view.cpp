@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <memory>
 
-#include "desktop/drawing.h"
+#include "drawing/drawing.h"
 #include "desktop/drawing_menu.h"
 
 namespace vantore {
@@ -49,7 +49,7 @@ class Paper : public QWidget {
         if (units.isEmpty()) return;
         QPainter painter(&picture_);
         painter.scale(width() / units.width(), height() / units.height());
-        paintDrawing(painter, context_.form(), drawing_);
+        Drawing(context_.form(), drawing_).paint(painter);
     }
 
     ViewContext& context_;

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <filesystem>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {

@@ -13,8 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

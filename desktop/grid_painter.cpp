@@ -2,7 +2,7 @@
 
 #include <QFontMetricsF>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

@@ -6,8 +6,8 @@
 #include <QRegularExpression>
 #include <memory>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

@@ -2,7 +2,7 @@
 #include <QFileInfo>
 
 #include "desktop/desktop_session.h"
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "desktop/look.h"
 #include "suite/module_list.h"
 

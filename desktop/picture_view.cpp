@@ -6,7 +6,7 @@
 #include <QSvgRenderer>
 #include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

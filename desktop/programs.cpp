@@ -5,7 +5,7 @@
 #include <QStandardPaths>
 #include <csignal>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {

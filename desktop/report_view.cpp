@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "desktop/drawing.h"
+#include "drawing/drawing.h"
 #include "desktop/exports.h"
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

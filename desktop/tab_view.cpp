@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

@@ -11,7 +11,7 @@
 #include "script/script_player.h"
 #include "shell/base/text_file.h"
 #ifdef VANTORE_DESKTOP
-#include "desktop/svg_file.h"
+#include "drawing/svg_file.h"
 #endif
 
 namespace {

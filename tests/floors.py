@@ -15,8 +15,9 @@ BELOW = {
     "demand": ["shell", "shell/forms", "shell/base"],
     "simulator": ["shell", "shell/forms", "shell/base"],
     "suite": ["shell", "shell/forms", "shell/base", "location", "routing", "mathprog", "demand", "simulator"],
-    "script": ["suite", "shell", "shell/forms", "shell/base", "desktop"],
-    "desktop": ["suite", "shell", "shell/forms", "shell/base"],
+    "drawing": ["shell/forms", "shell/base"],
+    "script": ["suite", "shell", "shell/forms", "shell/base", "drawing"],
+    "desktop": ["suite", "shell", "shell/forms", "shell/base", "drawing"],
     "solvers": ["shell/base", "location", "routing", "mathprog"],
 }
 CORE_FILES = re.compile(r"^(problem|method)[a-z_]*\.(h|cpp)$")
@@ -42,7 +43,7 @@ def faults(root):
         if own is None:
             continue
         text = path.read_text(encoding="utf-8")
-        if own != "desktop" and TOOLKIT.search(text):
+        if own not in ("desktop", "drawing") and TOOLKIT.search(text):
             yield f"{name} includes a toolkit's header"
         for target in INCLUDE.findall(text):
             other = floor(target)

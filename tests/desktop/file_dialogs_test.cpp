@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 #include "tests/desktop/next_dialog.h"
 #include "tests/support/temporary_folder.h"

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
 #include <functional>
+#include <string>
 
 namespace vantore::tests {
 
@@ -24,6 +28,25 @@ inline void answerFileDialog(const char* name) {
         edit->selectAll();
         QTest::keyClicks(edit, name);
         QTest::keyClick(edit, Qt::Key_Return);
+    });
+}
+
+/// Prints what the next preview shows into a PDF file, and tells the file that was proposed.
+inline void printToPdf(const std::filesystem::path& path, std::string* proposed = nullptr) {
+    withNextDialog([path, proposed](QWidget& preview) {
+        withNextDialog([path, proposed](QWidget& box) {
+            auto* printers = box.findChild<QComboBox*>("printers");
+            printers->setCurrentIndex(printers->count() - 1);
+            auto* edit = box.findChild<QLineEdit*>("filename");
+            if (proposed != nullptr) *proposed = edit->text().toStdString();
+            edit->setText(QString::fromStdString(path.string()));
+            if (std::filesystem::exists(path)) withNextDialog([](QWidget& asked) {
+                QTest::keyClick(&asked, Qt::Key_Y, Qt::AltModifier);
+            });
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        for (QAction* action : preview.findChildren<QAction*>())
+            if (action->shortcut() == QKeySequence::Print) action->trigger();
     });
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/chart_drawing.h"
+#include "drawing/chart_drawing.h"
 
 #include <QAreaSeries>
 #include <QChart>
@@ -14,8 +14,8 @@
 #include <cmath>
 #include <memory>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
