@@ -1,0 +1,27 @@
+#include "shell/suite_window.h"
+
+#include <exception>
+#include <new>
+
+namespace vantore {
+
+void SuiteWindow::run(const Control& control, const std::function<void()>& handler) {
+    if (!handler) return;
+    try {
+        handler();
+    } catch (const Unanswered&) {
+        // What asked has stopped; the window is as it was.
+    } catch (const PlatformFailure&) {
+        throw;
+    } catch (const std::bad_alloc&) {
+        message("Out of memory" + errorPlace(control), errorTitle());
+    } catch (const std::exception& error) {
+        message(error.what() + errorPlace(control), errorTitle());
+    }
+}
+
+std::string SuiteWindow::errorPlace(const Control& control) const {
+    return " occurred in " + errorTitle() + ", " + control.name + ".";
+}
+
+} // namespace vantore
