@@ -19,8 +19,7 @@ std::optional<std::string> fileToSave(const AskingPlace& place, const char* titl
                                       const std::string& name) {
     return chooseFile(
         place.window,
-        {.kind = FileDialog::Kind::Save, .title = title, .folder = place.folder, .filter = filter},
-        qtText(name));
+        {FileDialog::Kind::Save, title, place.folder, filter, name});
 }
 
 /// A report's fonts are the screen's; on paper the design's own sizes stand.

@@ -1,6 +1,7 @@
 #include "desktop/fitted_text.h"
 
 #include <QFontMetricsF>
+#include <QRegularExpression>
 
 namespace vantore {
 
@@ -12,6 +13,7 @@ constexpr double tolerance = .5; // pixels
 constexpr double noLimit = 1e6;
 constexpr int longestTip = 2000; // characters
 const QString dots(QChar(0x2026));
+const QRegularExpression breakPlace("(/|[^/]{12})");
 
 bool fits(const QFont& font, const QString& text, QSizeF room, int flags) {
     const QRectF needed = QFontMetricsF(font).boundingRect(QRectF(0, 0, room.width(), noLimit), flags, text);
@@ -45,6 +47,18 @@ FittedText fittedText(const QString& text, const QFont& font, QSizeF room, int f
                               : cutBlock(text, result.font, room, flags);
         result.cut = result.text != text;
         break;
+    }
+    return result;
+}
+
+QString breakable(const QString& text, const QFont& font, double width) {
+    const QFontMetricsF metrics(font);
+    QString result;
+    static const QRegularExpression words("\\S+|\\s+");
+    for (auto found = words.globalMatch(text); found.hasNext();) {
+        QString word = found.next().captured();
+        if (metrics.horizontalAdvance(word) > width) word.replace(breakPlace, "\\1\u200B");
+        result += word;
     }
     return result;
 }

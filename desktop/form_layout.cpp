@@ -9,21 +9,19 @@ namespace {
 
 constexpr double margin = 120; // twips, beside a control that reaches beyond its form
 
+template <class... Kinds>
+bool isOneOf(const Control& control) {
+    return ((dynamic_cast<const Kinds*>(&control) != nullptr) || ...);
+}
+
 bool takesRoom(const Control& control) {
-    return dynamic_cast<const DataGrid*>(&control) != nullptr ||
-           dynamic_cast<const ReportScreen*>(&control) != nullptr ||
-           dynamic_cast<const PictureSurface*>(&control) != nullptr ||
-           dynamic_cast<const Chart*>(&control) != nullptr ||
-           dynamic_cast<const TabControl*>(&control) != nullptr;
+    const auto* container = dynamic_cast<const Container*>(&control);
+    if (container != nullptr) return !container->pages.empty();
+    return isOneOf<DataGrid, ReportScreen, PictureSurface, Chart, ListBox>(control);
 }
 
 bool isPicture(const Control& control) {
-    return dynamic_cast<const Picture*>(&control) != nullptr;
-}
-
-const Control* containerOf(const Control& control) {
-    if (control.frame != nullptr) return control.frame;
-    return control.tabs;
+    return isOneOf<Picture>(control);
 }
 
 /// The controls that take the extra room, and the frames around them.
@@ -35,7 +33,7 @@ std::vector<const Control*> stretchingControls(const Form& form) {
         if (!found.empty()) break;
     }
     for (std::size_t i = 0; i < found.size(); ++i) {
-        const Control* outer = containerOf(*found[i]);
+        const Control* outer = found[i]->container;
         if (outer != nullptr && std::find(found.begin(), found.end(), outer) == found.end())
             found.push_back(outer);
     }
@@ -112,7 +110,7 @@ QRect FormLayout::place(const Control& control) const {
     } else {
         // What stands in a frame of fixed size moves with the frame.
         const Control* mover = &control;
-        while (containerOf(*mover) != nullptr && !stretches(*containerOf(*mover))) mover = containerOf(*mover);
+        while (mover->container != nullptr && !stretches(*mover->container)) mover = mover->container;
         r.left += across_.shift({mover->design.left, mover->design.right()});
         r.top += down_.shift({mover->design.top, mover->design.bottom()});
     }

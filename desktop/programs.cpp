@@ -47,6 +47,20 @@ class QtProgram final : public RunningProgram {
     QProcess process_;
 };
 
+struct Candidate {
+    const char* name;
+    QStringList arguments;
+};
+
+/// Starts the first of these programs that is installed.
+bool startFirst(const std::vector<Candidate>& candidates) {
+    for (const Candidate& candidate : candidates) {
+        const QString path = QStandardPaths::findExecutable(candidate.name);
+        if (!path.isEmpty() && QProcess::startDetached(path, candidate.arguments)) return true;
+    }
+    return false;
+}
+
 } // namespace
 
 std::unique_ptr<RunningProgram> startProgram(const std::filesystem::path& program,
@@ -64,16 +78,15 @@ std::unique_ptr<RunningProgram> startProgram(const std::filesystem::path& progra
 }
 
 bool startSpreadsheetProgram() {
-    struct Candidate {
-        const char* name;
-        QStringList arguments;
-    };
-    for (const Candidate& candidate :
-         {Candidate{"libreoffice", {"--calc"}}, Candidate{"localc", {}}, Candidate{"soffice", {"--calc"}}}) {
-        const QString path = QStandardPaths::findExecutable(candidate.name);
-        if (!path.isEmpty() && QProcess::startDetached(path, candidate.arguments)) return true;
-    }
-    return false;
+    return startFirst({{"libreoffice", {"--calc"}}, {"localc", {}}, {"soffice", {"--calc"}}});
+}
+
+bool startDisplaySettingsProgram() {
+    return startFirst({{"gnome-control-center", {"display"}},
+                       {"systemsettings", {"kcm_kscreen"}},
+                       {"xfce4-display-settings", {}},
+                       {"lxrandr", {}},
+                       {"arandr", {}}});
 }
 
 } // namespace vantore

@@ -18,4 +18,7 @@ std::unique_ptr<RunningProgram> startProgram(const std::filesystem::path& progra
 /// Starts LibreOffice Calc with an empty document; false when it isn't installed.
 bool startSpreadsheetProgram();
 
+/// Shows the desktop's display settings; false where none of the known programs is installed.
+bool startDisplaySettingsProgram();
+
 } // namespace vantore

@@ -86,7 +86,8 @@ SurfacePage::SurfacePage(const PictureSurface& surface, QSizeF size) : operation
         const QString painted = elided(whole, text->font, size.width() - text->x);
         const QRectF place({text->x, text->y}, lineSize(painted, text->font));
         texts_.push_back({place, whole, painted});
-        if (place.bottom() <= size.height() / smallestShare) lowest = std::max(lowest, place.bottom());
+        const bool seen = !surface.onZoom && place.bottom() <= size.height() / smallestShare;
+        if (seen) lowest = std::max(lowest, place.bottom());
     }
     share_ = size.height() > 0 ? size.height() / lowest : 1;
 }
