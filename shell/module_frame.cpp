@@ -272,8 +272,10 @@ void ModuleFrame::forgetTyping(const Control* except) {
 
 void ModuleFrame::restored() {
     forgetTyping();
-    for (const DataGrid* grid : grids_)
+    for (const DataGrid* grid : grids_) {
+        if (grid->onMove) grid->onMove();
         if (grid->onEdit) grid->onEdit();
+    }
 }
 
 // Files
@@ -299,6 +301,7 @@ std::string ModuleFrame::readOrCreate() const {
         if (error.number() != ErrorNumber::FileNotFound) throw;
     }
     replaceFile(pathOf(currentFile_), defaultSkeleton());
+    suite().platform.dialogs.failed(currentFile_ + " had to be made new");
     return readTextFile(pathOf(currentFile_));
 }
 

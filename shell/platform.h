@@ -42,6 +42,10 @@ class Dialogs {
 
     /// The chosen path, or nothing on Cancel. The file need not exist.
     virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
+
+    /// Something that was asked for has failed, or wasn't there and had to be made new. The user has been
+    /// told; who plays the suite unattended may end here by a PlatformFailure.
+    virtual void failed(const std::string& /*what*/) {}
 };
 
 class Printer {

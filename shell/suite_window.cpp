@@ -14,10 +14,15 @@ void SuiteWindow::run(const Control& control, const std::function<void()>& handl
     } catch (const PlatformFailure&) {
         throw;
     } catch (const std::bad_alloc&) {
-        message("Out of memory" + errorPlace(control), errorTitle());
+        reportFailure("Out of memory" + errorPlace(control));
     } catch (const std::exception& error) {
-        message(error.what() + errorPlace(control), errorTitle());
+        reportFailure(error.what() + errorPlace(control));
     }
+}
+
+void SuiteWindow::reportFailure(const std::string& text) {
+    message(text, errorTitle());
+    suite_.platform.dialogs.failed(text);
 }
 
 std::string SuiteWindow::errorPlace(const Control& control) const {

@@ -27,6 +27,8 @@ class SuiteWindow : public Form {
     Suite& suite() const { return suite_; }
 
   private:
+    void reportFailure(const std::string& text);
+
     Suite& suite_;
 };
 

@@ -33,6 +33,13 @@ void DataGrid::setCols(int count) {
     if (selection().endCol >= cols()) setCurrent(row(), std::min(col(), cols() - 1));
 }
 
+void DataGrid::setCells(GridCells cells) {
+    content_.cells = std::move(cells);
+    content_.rowHeights.resize(at(rows()), designRowHeight);
+    content_.colWidths.resize(at(cols()), designColWidth);
+    setCurrent(std::min(row(), rows() - 1), std::min(col(), cols() - 1));
+}
+
 void DataGrid::removeItem(int row) {
     checkIndex(row, 1, rows() - 1);
     content_.cells.erase(row);

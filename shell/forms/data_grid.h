@@ -27,6 +27,9 @@ class DataGrid : public Control {
     const std::string& cell(int row, int col) const { return content_.cells(row, col); }
     void setCell(int row, int col, std::string text) { content_.cells.edit(row, col) = std::move(text); }
 
+    /// Gives the grid other cells, and their size; the highlight is the current cell alone.
+    void setCells(GridCells cells);
+
     /// The number of data rows; 0 for a new grid with its single blank row.
     int rowCount() const { return content_.rowCount; }
     void setRowCount(int count) { content_.rowCount = count; }

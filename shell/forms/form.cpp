@@ -184,8 +184,14 @@ void Form::key(DataGrid& grid, int code) {
         if (grid.onKey) grid.onKey(code);
         edited(grid);
     });
+}
+
+void Form::enterKey(DataGrid& grid) {
+    const int row = grid.row();
+    const int col = grid.col();
+    key(grid, keys::enter);
     const bool stays = grid.row() == row && grid.col() == col;
-    if (code == keys::enter && stays && row + 1 < grid.rows())
+    if (stays && row + 1 < grid.rows())
         select(grid, {.startRow = row + 1, .endRow = row + 1, .startCol = col, .endCol = col});
 }
 

@@ -50,8 +50,11 @@ class Form {
     void click(DataGrid& grid, int row, int col);
     void doubleClick(DataGrid& grid, int row, int col);
 
-    /// One character typed into the current cell. Enter moves down from the cell.
+    /// One character typed into the current cell.
     void key(DataGrid& grid, int code);
+
+    /// The Enter key: its character, then the cell below becomes current.
+    void enterKey(DataGrid& grid);
 
     /// Replaces a cell's text by one typed key by key.
     void typeCell(DataGrid& grid, int row, int col, std::string_view text);
