@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace vantore {
 
@@ -58,20 +59,22 @@ FormLayout::Direction::Direction(std::vector<Span> stretching, double extra)
     : stretching_(std::move(stretching)), extra_(extra) {
     std::sort(stretching_.begin(), stretching_.end(),
               [](const Span& a, const Span& b) { return a.start < b.start; });
-    if (stretching_.empty()) return;
-    total_ = 1;
-    total_ = stretched(stretching_.back().end + extra_) - stretching_.back().end - extra_;
+    if (!stretching_.empty()) total_ = covered(std::numeric_limits<double>::max());
+}
+
+/// How much of what lies before a position stretches.
+double FormLayout::Direction::covered(double position) const {
+    double covered = 0;
+    double reached = std::numeric_limits<double>::lowest();
+    for (const Span& span : stretching_) {
+        covered += std::max(0.0, std::min(span.end, position) - std::max(span.start, reached));
+        reached = std::max(reached, span.end);
+    }
+    return covered;
 }
 
 double FormLayout::Direction::stretched(double position) const {
-    double covered = 0;
-    double reached = 0;
-    for (const Span& span : stretching_) {
-        const double start = std::max(span.start, reached);
-        covered += std::max(0.0, std::min(span.end, position) - start);
-        reached = std::max(reached, span.end);
-    }
-    return position + extra_ * covered / total_;
+    return position + extra_ * covered(position) / total_;
 }
 
 double FormLayout::Direction::shift(const Span& control) const {

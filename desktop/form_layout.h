@@ -45,8 +45,10 @@ class FormLayout {
         double shift(const Span& control) const;
 
       private:
+        double covered(double position) const;
+
         std::vector<Span> stretching_;
-        double total_ = 0;
+        double total_ = 1;
         double extra_ = 0;
     };
 

@@ -276,7 +276,7 @@ bool GridView::editKey(const QKeyEvent& event) {
     case Qt::Key_Escape: return key(keys::escape), true;
     case Qt::Key_Backspace: return key(keys::backspace), true;
     case Qt::Key_Return:
-    case Qt::Key_Enter: return key(keys::enter), true;
+    case Qt::Key_Enter: return act([this] { context_.form().enterKey(grid_); }), true;
     default: break;
     }
     const bool command = event.modifiers().testFlag(Qt::ControlModifier) ||

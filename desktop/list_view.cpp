@@ -10,8 +10,8 @@ namespace vantore {
 ListView::ListView(ViewContext& context, ListBox& list, QWidget* parent)
     : ControlView(context, list, new QListWidget(parent)), data_(list),
       list_(static_cast<QListWidget&>(*widget())) {
-    QObject::connect(&list_, &QListWidget::currentRowChanged, &list_, [&context, &list](int row) {
-        context.act([&context, &list, row] { context.form().selectItem(list, row); });
+    QObject::connect(&list_, &QListWidget::itemSelectionChanged, &list_, [this, &context, &list] {
+        context.act([&] { context.form().selectItem(list, list_.currentRow()); });
     });
     QObject::connect(&list_, &QListWidget::itemActivated, &list_, [&context, &list] {
         context.act([&context, &list] { context.form().openItem(list); });

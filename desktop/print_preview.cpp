@@ -22,8 +22,8 @@ constexpr int tailLength = 8; // bytes: the mark and its line end
 void checkWhole(const QString& path) {
     QFile file(path);
     if (!file.open(QFile::ReadOnly)) throw RuntimeError(ErrorNumber::DeviceUnavailable);
-    file.seek(std::max<qint64>(0, file.size() - tailLength));
-    if (!file.readAll().contains(endOfPdf)) throw RuntimeError(ErrorNumber::DiskFull);
+    if (file.size() > tailLength) file.seek(file.size() - tailLength);
+    if (!file.read(tailLength).contains(endOfPdf)) throw RuntimeError(ErrorNumber::DiskFull);
 }
 
 void shapeWindow(QPrintPreviewDialog& preview, const QString& title) {

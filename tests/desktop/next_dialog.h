@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
@@ -31,6 +33,11 @@ inline void answerFileDialog(const char* name) {
     });
 }
 
+/// Answers the toolkit's own question, such as whether a file is to be replaced.
+inline void answerYes(QWidget& question) {
+    static_cast<QMessageBox&>(question).button(QMessageBox::Yes)->click();
+}
+
 /// Prints what the next preview shows into a PDF file, and tells the file that was proposed.
 inline void printToPdf(const std::filesystem::path& path, std::string* proposed = nullptr) {
     withNextDialog([path, proposed](QWidget& preview) {
@@ -40,9 +47,7 @@ inline void printToPdf(const std::filesystem::path& path, std::string* proposed 
             auto* edit = box.findChild<QLineEdit*>("filename");
             if (proposed != nullptr) *proposed = edit->text().toStdString();
             edit->setText(QString::fromStdString(path.string()));
-            if (std::filesystem::exists(path)) withNextDialog([](QWidget& asked) {
-                QTest::keyClick(&asked, Qt::Key_Y, Qt::AltModifier);
-            });
+            if (std::filesystem::exists(path)) withNextDialog(answerYes);
             QTest::keyClick(&box, Qt::Key_Return);
         });
         for (QAction* action : preview.findChildren<QAction*>())
