@@ -5,6 +5,7 @@
 
 #include "drawing/chart_drawing.h"
 #include "drawing/fonts.h"
+#include "shell/forms/visible_operations.h"
 
 namespace vantore {
 
@@ -77,7 +78,8 @@ QSizeF unitsOf(const Form& form, const Control& control) {
             control.design.height * form.scale().y / twipsPerPixel};
 }
 
-SurfacePage::SurfacePage(const PictureSurface& surface, QSizeF size) : operations_(surface.operations()) {
+SurfacePage::SurfacePage(const PictureSurface& surface, QSizeF size)
+    : operations_(visibleOperations(surface.operations())) {
     double lowest = size.height();
     for (const SurfaceOperation& operation : operations_) {
         const auto* text = std::get_if<SurfaceText>(&operation);
