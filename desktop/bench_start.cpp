@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "desktop/desktop_session.h"
-#include "desktop/fonts.h"
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
+#include "drawing/fonts.h"
 #include "shell/base/driver_file.h"
 #include "shell/base/text_file.h"
 #include "suite/module_list.h"

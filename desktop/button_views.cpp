@@ -5,15 +5,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
-#include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
 namespace {
 
-constexpr int horizontalPadding = 6; // pixels, of a button's edge and its focus frame
+constexpr int buttonPadding = 12; // pixels, of a button's edges and its focus frame
 constexpr int verticalPadding = 4;
 constexpr int markGap = 6;
 
@@ -22,7 +21,7 @@ constexpr int markGap = 6;
 template <class Base>
 class Pressable : public Base {
   public:
-    explicit Pressable(QWidget* parent) : Base(parent) {}
+    using Base::Base;
 
   protected:
     bool event(QEvent* event) override {
@@ -41,65 +40,51 @@ class Pressable : public Base {
     }
 };
 
-template <class Base>
-Base* makePressable(QWidget* parent, ViewContext& context, Control& control) {
-    auto* button = std::make_unique<Pressable<Base>>(parent).release(); // the parent's own
-    QObject::connect(button, &QAbstractButton::clicked, button, [&context, &control] {
-        context.act([&context, &control] { context.form().press(control); });
-    });
-    return button;
-}
-
-QSize roomBesideMark(const QAbstractButton& button, QStyle::PixelMetric mark) {
-    const int taken = button.style()->pixelMetric(mark, nullptr, &button) + markGap;
-    return {button.width() - taken, button.height()};
-}
-
-void setText(QAbstractButton& button, const QString& text) {
-    if (button.text() != text) button.setText(text);
-}
-
-void setFont(QWidget& widget, const QFont& font) {
-    if (widget.font() != font) widget.setFont(font);
+/// Room of the mark of an option or check box.
+int markWidth(const QWidget& parent, QStyle::PixelMetric mark) {
+    return parent.style()->pixelMetric(mark, nullptr, &parent) + markGap;
 }
 
 } // namespace
 
-ButtonView::ButtonView(ViewContext& context, Button& button, QWidget* parent)
-    : ControlView(context, button, makePressable<QPushButton>(parent, context, button)),
-      button_(static_cast<QPushButton&>(*widget())) {}
-
-void ButtonView::syncContent(const Layout& layout) {
-    const QString text = qtText(control().caption);
-    const QSize room = button_.size() - QSize(2 * horizontalPadding, verticalPadding);
-    setText(button_, text);
-    setFont(button_, fittedFont(text, room, Qt::TextShowMnemonic | Qt::TextSingleLine, layout));
+PressedView::PressedView(ViewContext& context, Control& control, QAbstractButton* button, int taken)
+    : ControlView(context, control, button), button_(*button), taken_(taken) {
+    QObject::connect(button, &QAbstractButton::clicked, button, [&context, &control] {
+        context.act([&context, &control] { context.form().press(control); });
+    });
 }
+
+void PressedView::syncContent(const FormLayout& layout) {
+    const QSize room = button_.size() - QSize(taken_, verticalPadding);
+    const FittedText& shown = fitted(qtText(control().caption), room, Qt::TextShowMnemonic, layout);
+    if (button_.text() != shown.text) button_.setText(shown.text);
+    if (button_.font() != shown.font) button_.setFont(shown.font);
+}
+
+ButtonView::ButtonView(ViewContext& context, Button& button, QWidget* parent)
+    : PressedView(context, button, new Pressable<QPushButton>(parent), buttonPadding) {}
 
 OptionView::OptionView(ViewContext& context, Option& option, QWidget* parent)
-    : ControlView(context, option, makePressable<QRadioButton>(parent, context, option)), option_(option),
-      radio_(static_cast<QRadioButton&>(*widget())) {
-    radio_.setAutoExclusive(false); // which options exclude each other is the form's
-}
+    : PressedView(context, option, new Pressable<QRadioButton>(parent),
+                  markWidth(*parent, QStyle::PM_ExclusiveIndicatorWidth)),
+      option_(option) {}
 
-void OptionView::syncContent(const Layout& layout) {
-    const QString text = qtText(option_.caption);
-    setText(radio_, text);
-    setFont(radio_, fittedFont(text, roomBesideMark(radio_, QStyle::PM_ExclusiveIndicatorWidth),
-                               Qt::TextShowMnemonic, layout));
-    radio_.setChecked(option_.selected);
+void OptionView::syncContent(const FormLayout& layout) {
+    PressedView::syncContent(layout);
+    if (button().isChecked() == option_.selected) return;
+    button().setAutoExclusive(false); // else the toolkit refuses to clear the only one
+    button().setChecked(option_.selected);
+    button().setAutoExclusive(true);
 }
 
 CheckBoxView::CheckBoxView(ViewContext& context, CheckBox& box, QWidget* parent)
-    : ControlView(context, box, makePressable<QCheckBox>(parent, context, box)), box_(box),
-      check_(static_cast<QCheckBox&>(*widget())) {}
+    : PressedView(context, box, new Pressable<QCheckBox>(parent),
+                  markWidth(*parent, QStyle::PM_IndicatorWidth)),
+      box_(box) {}
 
-void CheckBoxView::syncContent(const Layout& layout) {
-    const QString text = qtText(box_.caption);
-    setText(check_, text);
-    setFont(check_, fittedFont(text, roomBesideMark(check_, QStyle::PM_IndicatorWidth), Qt::TextShowMnemonic,
-                               layout));
-    check_.setChecked(box_.selected);
+void CheckBoxView::syncContent(const FormLayout& layout) {
+    PressedView::syncContent(layout);
+    button().setChecked(box_.selected);
 }
 
 } // namespace vantore

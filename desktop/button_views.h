@@ -2,45 +2,51 @@
 
 #include "desktop/control_view.h"
 
-class QPushButton;
-class QRadioButton;
-class QCheckBox;
+class QAbstractButton;
 
 namespace vantore {
 
-class ButtonView : public ControlView {
+/// Anything that is pressed: its caption, and how much of its width a mark beside it takes.
+class PressedView : public ControlView {
   public:
-    ButtonView(ViewContext& context, Button& button, QWidget* parent);
+    PressedView(ViewContext& context, Control& control, QAbstractButton* button, int taken);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
+
+    QAbstractButton& button() const { return button_; }
 
   private:
-    QPushButton& button_;
+    QAbstractButton& button_;
+    int taken_; ///< pixels beside the caption
 };
 
-class OptionView : public ControlView {
+class ButtonView : public PressedView {
+  public:
+    ButtonView(ViewContext& context, Button& button, QWidget* parent);
+};
+
+/// An option: one tab stop with the others on its page, whose arrow keys select.
+class OptionView : public PressedView {
   public:
     OptionView(ViewContext& context, Option& option, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
 
   private:
     const Option& option_;
-    QRadioButton& radio_;
 };
 
-class CheckBoxView : public ControlView {
+class CheckBoxView : public PressedView {
   public:
     CheckBoxView(ViewContext& context, CheckBox& box, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
 
   private:
     const CheckBox& box_;
-    QCheckBox& check_;
 };
 
 } // namespace vantore

@@ -1,23 +1,13 @@
 #pragma once
 
-#include <QFont>
-#include <QRect>
 #include <QWidget>
 #include <functional>
 #include <memory>
 
-#include "shell/forms/form.h"
+#include "desktop/fitted_text.h"
+#include "desktop/form_layout.h"
 
 namespace vantore {
-
-/// From twips of a form's design to the pixels of its window.
-struct Layout {
-    double x = 1; ///< pixels of a twip
-    double y = 1;
-    double zoom = 1; ///< of fonts and of a surface's units
-
-    QRect place(const Rect& design) const;
-};
 
 /// What a view needs of its window.
 class ViewContext {
@@ -33,6 +23,9 @@ class ViewContext {
 
     /// Where a user's files go unless they name another folder.
     virtual std::string outputFolder() const = 0;
+
+    /// The widget of a control, nullptr when there is none.
+    virtual QWidget* widgetOf(const Control& control) const = 0;
 };
 
 /// One control's widget. The control is the truth: `sync` shows its state again after each step.
@@ -43,35 +36,49 @@ class ControlView {
     ControlView(const ControlView&) = delete;
     ControlView& operator=(const ControlView&) = delete;
 
-    Control& control() const { return control_; }
+    const Control& control() const { return control_; }
     QWidget* widget() const { return widget_; }
 
-    void sync(const Layout& layout);
+    void sync(const FormLayout& layout);
+
+    /// What the controls of a container's page stand on.
+    virtual QWidget* page(int /*number*/) { return nullptr; }
 
   protected:
-    /// Shows what is this kind's own. Place, visibility and tip are up to date.
-    virtual void syncContent(const Layout& layout) = 0;
+    /// Shows what is this kind's own. Place and name are up to date; visibility follows.
+    virtual void syncContent(const FormLayout& layout) = 0;
+
+    /// Where the control stands in the window.
+    virtual QRect place(const FormLayout& layout) const { return layout.place(control_); }
 
     ViewContext& context() const { return context_; }
 
-    /// The control's font, as large as its design says or as `text` fits `room`.
-    QFont fittedFont(const QString& text, QSize room, int flags, const Layout& layout);
+    /// The control's font as its design says.
+    QFont font(const FormLayout& layout) const;
+
+    /// `text` in the control's font, smaller or cut where it doesn't fit `room`. The tip shows a cut one
+    /// whole.
+    const FittedText& fitted(const QString& text, QSize room, int flags, const FormLayout& layout);
 
   private:
+    void syncName();
+
     ViewContext& context_;
     Control& control_;
     QWidget* widget_; ///< Owned by the window's widget tree.
 
-    struct FittedFont {
+    struct Fitting {
         QString text;
         QSize room;
-        double size = 0;
-        bool bold = false;
         QFont font;
-    } fitted_;
+        FittedText result;
+    } fitting_;
 };
 
 /// The view for a control of any kind, on `parent`.
 std::unique_ptr<ControlView> makeView(ViewContext& context, Control& control, QWidget* parent);
+
+/// What a screen reader calls a control that has neither caption nor label.
+QString plainName(const Form& form, const Control& control);
 
 } // namespace vantore

@@ -3,21 +3,25 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QFontMetricsF>
+#include <QLocale>
 #include <QScreen>
+#include <QStorageInfo>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/drawing_export.h"
-#include "desktop/exports.h"
+#include "desktop/dialog_place.h"
+#include "desktop/dialog_window.h"
 #include "desktop/file_dialogs.h"
-#include "desktop/fonts.h"
+#include "desktop/print_preview.h"
 #include "desktop/printing.h"
 #include "desktop/programs.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 #include "processes/child_process.h"
 #include "processes/folder_lock.h"
-#include "shell/dialog_form.h"
 
 namespace vantore {
 
@@ -43,15 +47,32 @@ class NormalPointer {
     bool busy_;
 };
 
-/// A dialog over a window that is drawn smaller than its design is as much smaller itself, about the same
-/// centre.
-void placeDialog(FormWindow& window, const DialogForm& dialog, double zoom) {
-    const QSize design = window.designSize();
-    const QSize size = design * zoom;
-    const auto left = static_cast<int>(dialog.left / twipsPerPixel);
-    const auto top = static_cast<int>(dialog.top / twipsPerPixel);
-    window.setFixedSize(size);
-    window.move(left + (design.width() - size.width()) / 2, top + (design.height() - size.height()) / 2);
+/// What a dialog over the window asks about: what its form says, else a drawing or grid with a result.
+const Control* askedAbout(const Form& form) {
+    if (form.askedAbout != nullptr) return form.askedAbout;
+    for (const auto& control : form.controls()) {
+        const auto* surface = dynamic_cast<const PictureSurface*>(control.get());
+        const bool drawn = surface != nullptr && !surface->operations().empty();
+        const bool grid = dynamic_cast<const DataGrid*>(control.get()) != nullptr && control->result;
+        if (control->shown() && (drawn || grid)) return control.get();
+    }
+    return nullptr;
+}
+
+QRect placeOver(FormWindow* behind, const DialogWindow& dialog) {
+    const QRect screen = dialog.screen()->availableGeometry();
+    const Control* control = behind == nullptr ? nullptr : askedAbout(behind->form());
+    QWidget* widget = control == nullptr ? nullptr : behind->widgetOf(*control);
+    AskedAbout about;
+    if (widget != nullptr)
+        about = {QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()), widget->grab().toImage()};
+    return dialogPlace(dialog.size(), dialog.toldMiddle(), screen, about);
+}
+
+/// What the window's surfaces and charts show, for paper; nullptr where it has none.
+std::shared_ptr<const Drawing> drawingOf(const Form& form) {
+    auto drawing = Drawing::ofWindow(form);
+    return drawing ? std::make_shared<const Drawing>(std::move(*drawing)) : nullptr;
 }
 
 } // namespace
@@ -61,24 +82,16 @@ void placeDialog(FormWindow& window, const DialogForm& dialog, double zoom) {
 void DesktopPlatform::showModal(DialogForm& dialog) {
     const NormalPointer pointer;
     windows_.refresh(); // what has been drawn so far is seen behind the question
-    const FormWindow* behind = windows_.front();
-    const double zoom = behind == nullptr ? 1 : std::min(1.0, behind->zoom());
-    FormWindow& window = windows_.open(dialog, steps_);
-    window.behaveAsDialog();
-    placeDialog(window, dialog, zoom);
-    QEventLoop loop;
-    window.onClosed = [&loop] { loop.quit(); };
-    window.refresh();
-    window.show();
-    window.activateWindow();
-    while (!dialog.closed) loop.exec();
-    windows_.close(dialog);
+    FormWindow* behind = windows_.front();
+    DialogWindow window(dialog, steps_, behind, behind == nullptr ? 1 : behind->zoom());
+    window.move(placeOver(behind, window).topLeft());
+    window.exec();
 }
 
 std::optional<std::string> DesktopPlatform::chooseFile(const FileDialog& dialog) {
     const NormalPointer pointer;
     windows_.refresh();
-    return vantore::chooseFile(windows_.front(), dialog);
+    return vantore::chooseFile(windows_.front(), dialog, Overwriting::ProposedUnasked);
 }
 
 // Printer
@@ -97,10 +110,6 @@ void DesktopPlatform::print(const PrintJob& job) {
 
 void DesktopPlatform::clear() {
     QGuiApplication::clipboard()->clear();
-}
-
-void DesktopPlatform::setText(const std::string& text) {
-    QGuiApplication::clipboard()->setText(qtText(text));
 }
 
 void DesktopPlatform::setPicture(const CapturedPicture& picture) {
@@ -149,13 +158,45 @@ CapturedPicture DesktopPlatform::capture(const Form& form, const PixelRect& area
     if (window == nullptr) return {};
     window->refresh();
     const QImage client = window->canvas().grab().toImage();
-    return pictureOf(client.copy(area.left, area.top, area.width, area.height));
+    CapturedPicture picture = pictureOf(client.copy(area.left, area.top, area.width, area.height));
+    if (area == clientArea(form)) picture.drawing = drawingOf(form);
+    return picture;
 }
 
 void DesktopPlatform::setBusyPointer(bool busy) {
     const bool isBusy = QGuiApplication::overrideCursor() != nullptr;
     if (busy && !isBusy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     if (!busy && isBusy) QGuiApplication::restoreOverrideCursor();
+}
+
+// Settings
+
+Settings::Resolution DesktopPlatform::resolution() const {
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    return {size.width(), size.height()};
+}
+
+int DesktopPlatform::dotsPerInch() const {
+    return static_cast<int>(std::lround(QGuiApplication::primaryScreen()->logicalDotsPerInchY()));
+}
+
+std::optional<std::string> DesktopPlatform::language() const {
+    const QLocale::Language language = QLocale::system().language();
+    return utf8Text(QLocale::languageToString(language == QLocale::C ? QLocale::English : language));
+}
+
+void DesktopPlatform::openDisplaySettings(int /*page*/) {
+    startDisplaySettingsProgram();
+}
+
+std::vector<std::string> DesktopPlatform::volumes() const {
+    std::vector<std::string> roots = {"/"};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        const bool disk = volume.isValid() && volume.isReady() && volume.device().startsWith("/dev/");
+        if (disk && QFileInfo(volume.rootPath()).isDir() && !volume.isRoot())
+            roots.push_back(utf8Text(volume.rootPath()));
+    }
+    return roots;
 }
 
 void DesktopPlatform::beep() {

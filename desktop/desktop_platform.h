@@ -2,17 +2,22 @@
 
 #include <QElapsedTimer>
 
-#include "desktop/windows.h"
+#include "desktop/open_windows.h"
 #include "shell/platform.h"
 
 namespace vantore {
 
-/// The outside world on a desktop: windows, printers, the clipboard, programs and the screen.
-class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public Programs, public Display {
+/// The outside world on a desktop: windows, printers, the clipboard, programs, the screen and its settings.
+class DesktopPlatform : public Dialogs,
+                        public Printer,
+                        public Clipboard,
+                        public Programs,
+                        public Display,
+                        public Settings {
   public:
-    DesktopPlatform(Windows& windows, WindowSteps& steps) : windows_(windows), steps_(steps) {}
+    DesktopPlatform(OpenWindows& windows, WindowSteps& steps) : windows_(windows), steps_(steps) {}
 
-    Platform parts() { return {*this, *this, *this, *this, *this}; }
+    Platform parts() { return {*this, *this, *this, *this, *this, *this}; }
 
     void showModal(DialogForm& dialog) override;
     std::optional<std::string> chooseFile(const FileDialog& dialog) override;
@@ -23,7 +28,6 @@ class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public
     void print(const PrintJob& job) override;
 
     void clear() override;
-    void setText(const std::string& text) override;
     void setPicture(const CapturedPicture& picture) override;
 
     std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
@@ -40,8 +44,17 @@ class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public
     void beep() override;
     void processEvents() override;
 
+    Resolution resolution() const override;
+    int dotsPerInch() const override;
+    std::optional<std::string> language() const override;
+
+    /// Themes don't disturb the suite's look: none is told of.
+    bool themed() const override { return false; }
+    void openDisplaySettings(int page) override;
+    std::vector<std::string> volumes() const override;
+
   private:
-    Windows& windows_;
+    OpenWindows& windows_;
     WindowSteps& steps_;
     QElapsedTimer sinceRefresh_;
 };

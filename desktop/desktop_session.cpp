@@ -4,18 +4,24 @@
 #include <QScreen>
 #include <exception>
 
+#include "shell/launcher.h"
+
 namespace vantore {
 
 DesktopSession::DesktopSession(const std::string& installFolder, std::vector<ModuleEntry> modules)
-    : platform_(windows_, *this), parts_(platform_.parts()), suite_(parts_, std::move(modules)),
-      launcher_(suite_) {
+    : platform_(windows_, *this), parts_(platform_.parts()), suite_(parts_, std::move(modules)) {
     suite_.installFolder = installFolder;
 }
 
 bool DesktopSession::start() {
-    step([this] { launcher_.load(); });
-    if (launcher_.closed) return false;
-    showOver(launcher_);
+    auto owned = std::make_unique<Launcher>(suite_);
+    Launcher& launcher = *owned;
+    suite_.windows.open(std::move(owned));
+    ++depth_; // nothing is shown before the start is over
+    step([&] { launcher.load(); });
+    --depth_;
+    if (launcher.closed) return false;
+    settle();
     return true;
 }
 
@@ -39,6 +45,8 @@ void DesktopSession::step(const std::function<void()>& action) {
     ++depth_;
     try {
         action();
+    } catch (const Unanswered&) {
+        // What asked has stopped.
     } catch (const std::exception& error) {
         report(error.what());
     }
@@ -52,33 +60,31 @@ void DesktopSession::report(const char* text) {
     suite_.messageBx(text, "VANTORE");
 }
 
-/// Opens the window of a module that has come up, and lets one go that has closed. Both wait for the end of
-/// the outermost action; the closed one also for its own events to end.
+/// Opens the windows of forms that have come up, and lets closed ones go. Both wait for the end of the
+/// outermost action; a closed one also for its own events to end.
 void DesktopSession::settle() {
     if (depth_ > 0) return;
-    if (launcher_.closed) return QCoreApplication::quit();
-    ModuleFrame* module = launcher_.module();
-    if (module == nullptr) return;
-    FormWindow* window = windows_.find(*module);
-    if (module->closed) {
-        if (window != nullptr) window->hide();
-        QMetaObject::invokeMethod(
-            this, [this] { unloadModule(); }, Qt::QueuedConnection);
-    } else if (window == nullptr) {
-        showOver(*module);
+    bool closed = false;
+    for (const auto& form : suite_.windows.forms()) {
+        FormWindow* window = windows_.find(*form);
+        if (form->closed && window != nullptr) window->hide();
+        if (!form->closed && window == nullptr) showOver(*form);
+        closed = closed || form->closed;
     }
+    if (closed)
+        QMetaObject::invokeMethod(
+            this, [this] { unloadClosed(); }, Qt::QueuedConnection);
 }
 
-void DesktopSession::unloadModule() {
-    const ModuleFrame* module = launcher_.module();
-    if (depth_ > 0 || module == nullptr || !module->closed) return;
-    windows_.close(*module);
-    launcher_.unloadClosedModule();
-    windows_.refresh();
-    if (FormWindow* window = windows_.front()) {
-        window->raise();
-        window->activateWindow();
-    }
+void DesktopSession::unloadClosed() {
+    if (depth_ > 0) return;
+    for (const auto& form : suite_.windows.forms())
+        if (form->closed) windows_.close(*form);
+    step([this] { suite_.windows.unloadClosed(); });
+    if (suite_.windows.empty()) return QCoreApplication::quit();
+    FormWindow* window = windows_.front();
+    window->raise();
+    window->activateWindow();
 }
 
 } // namespace vantore

@@ -6,8 +6,7 @@
 
 #include "desktop/desktop_platform.h"
 #include "desktop/keyboard_keeper.h"
-#include "desktop/windows.h"
-#include "shell/launcher.h"
+#include "desktop/open_windows.h"
 #include "shell/suite.h"
 
 namespace vantore {
@@ -21,27 +20,26 @@ class DesktopSession : public QObject, public WindowSteps {
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
 
-    /// Starts the launcher and shows its window. False when the suite can't go on.
+    /// Starts the launcher and shows what it opens. False when the suite can't go on.
     bool start();
 
     void step(const std::function<void()>& action) override;
     std::string outputFolder() const override;
 
-    const Launcher& launcher() const { return launcher_; }
-    Windows& windows() { return windows_; }
+    const Suite& suite() const { return suite_; }
+    OpenWindows& windows() { return windows_; }
 
   private:
     void showOver(Form& form);
     void settle();
-    void unloadModule();
+    void unloadClosed();
     void report(const char* text);
 
-    Windows windows_;
+    OpenWindows windows_;
     KeyboardKeeper keyboard_{windows_};
     DesktopPlatform platform_;
     Platform parts_;
     Suite suite_;
-    Launcher launcher_;
     int depth_ = 0; ///< of actions within actions: a button pressed while a solver runs
 };
 

@@ -2,29 +2,22 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QWidget>
 #include <optional>
 
-#include "desktop/drawing.h"
-#include "desktop/drawing_export.h"
 #include "desktop/file_dialogs.h"
-#include "desktop/fonts.h"
-#include "desktop/print_window.h"
-#include "desktop/printing.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {
 
 namespace {
 
-constexpr double printedPixelsPerUnit = 4;
 constexpr double copiedPixelsPerUnit = 2;
 
 std::optional<std::string> fileToSave(const AskingPlace& place, const char* title, const char* filter,
-                                      const QString& name) {
-    return chooseFile(
-        place.window,
-        {.kind = FileDialog::Kind::Save, .title = title, .folder = place.folder, .filter = filter}, name);
+                                      const std::string& name) {
+    return chooseFile(place.window, {FileDialog::Kind::Save, title, place.folder, filter, name});
 }
 
 /// A report's fonts are the screen's; on paper the design's own sizes stand.
@@ -36,16 +29,9 @@ PrintedLine onPaper(const ReportLine& line, double scale) {
 
 } // namespace
 
-bool printWithPreview(const AskingPlace& place, const PrintJob& job) {
-    PrintWindow print(place.window, job, qtText(place.folder));
-    if (print.exec() != QDialog::Accepted) return false;
-    print.print();
-    return true;
-}
-
 void saveReportAs(const AskingPlace& place, const Form& form, const ReportScreen& report) {
-    const auto path = fileToSave(place, "Save report as text", "Text file (*.txt)|*.txt|",
-                                 qtText(form.name()) + " report.txt");
+    const auto path =
+        fileToSave(place, "Save report as text", "Text file (*.txt)|*.txt|", form.name() + " report.txt");
     if (!path) return;
     std::string text;
     for (const ReportLine& line : report.lines()) text.append(line.text).append("\r\n");
@@ -53,30 +39,27 @@ void saveReportAs(const AskingPlace& place, const Form& form, const ReportScreen
 }
 
 void printReport(const AskingPlace& place, const Form& form, const ReportScreen& report) {
-    PrintJob job{.title = form.name()};
+    PrintJob job{.title = form.name() + " report"};
     for (const ReportLine& line : report.lines()) job.operations.emplace_back(onPaper(line, form.scale().x));
     printWithPreview(place, job);
 }
 
 void copyDrawing(const Form& form, const Control& drawing) {
-    QGuiApplication::clipboard()->setImage(imageOf(form, drawing, copiedPixelsPerUnit));
+    QGuiApplication::clipboard()->setImage(imageOf(Drawing(form, drawing), copiedPixelsPerUnit));
 }
 
 void saveDrawingAs(const AskingPlace& place, const Form& form, const Control& drawing) {
     const auto path = fileToSave(place, "Save picture",
                                  "Drawing (*.svg)|*.svg|Picture (*.png)|*.png|PDF document (*.pdf)|*.pdf|",
-                                 qtText(form.name()) + " plot.svg");
-    if (path) saveDrawing(form, drawing, pathOf(*path));
+                                 form.name() + " plot.svg");
+    if (path) saveDrawing(Drawing(form, drawing), form.caption, pathOf(*path));
 }
 
 void printDrawing(const AskingPlace& place, const Form& form, const Control& drawing) {
-    const QSizeF units = unitsOf(form, drawing);
-    PrintJob job{.title = form.name()};
-    if (units.width() > units.height()) job.orientation = Orientation::Landscape;
-    const Printer::Area room = printableArea(pageLayout(job.orientation));
-    const QSizeF size = units.scaled(QSizeF(room.width, room.height), Qt::KeepAspectRatio);
-    job.operations.emplace_back(
-        PrintedPicture{pictureOf(imageOf(form, drawing, printedPixelsPerUnit)), size.width(), size.height()});
+    const auto page = std::make_shared<const Drawing>(form, drawing);
+    PrintJob job{.title = form.name() + " plot"};
+    if (page->size().width() > page->size().height()) job.orientation = Orientation::Landscape;
+    job.operations.emplace_back(PrintedPicture{.picture = {.drawing = page}});
     printWithPreview(place, job);
 }
 

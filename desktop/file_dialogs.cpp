@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <filesystem>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {
@@ -38,6 +38,8 @@ class NameDialog : public QFileDialog {
         connect(this, &QFileDialog::filterSelected, this, [this] { followFilter(); });
     }
 
+    QString unasked; ///< the path that is saved over without a question
+
     QLineEdit* nameBox() const { return findChild<QLineEdit*>("fileNameEdit"); }
 
     void accept() override {
@@ -46,7 +48,9 @@ class NameDialog : public QFileDialog {
         if (!typed.isEmpty() && !typed.startsWith('~')) {
             const QDir folder = directory();
             const std::string path = utf8Text(folder.absoluteFilePath(typed));
-            box->setText(folder.relativeFilePath(qtText(pathForName(path, utf8Text(ending())))));
+            const QString chosen = qtText(pathForName(path, utf8Text(ending())));
+            setOption(QFileDialog::DontConfirmOverwrite, chosen == unasked);
+            box->setText(folder.relativeFilePath(chosen));
         }
         QFileDialog::accept();
     }
@@ -86,7 +90,7 @@ std::string pathForName(const std::string& path, const std::string& ending) {
     return textOf(existingSpelling(pathOf(path + "." + ending)));
 }
 
-std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog, const QString& suggested) {
+std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog, Overwriting overwriting) {
     const bool saves = dialog.kind == FileDialog::Kind::Save;
     NameDialog box(parent);
     box.setOption(QFileDialog::DontUseNativeDialog);
@@ -94,9 +98,11 @@ std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog,
     box.setWindowTitle(qtText(dialog.title));
     box.setFileMode(QFileDialog::AnyFile);
     box.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    box.setDirectory(qtText(dialog.folder));
+    box.setDirectory(dialog.folder.empty() ? QDir::currentPath() : qtText(dialog.folder));
     box.setNameFilters(nameFilters(dialog.filter) << "All files (*)");
-    if (!suggested.isEmpty()) box.selectFile(suggested);
+    if (!dialog.name.empty()) box.selectFile(qtText(dialog.name));
+    if (overwriting == Overwriting::ProposedUnasked)
+        box.unasked = box.directory().absoluteFilePath(qtText(dialog.name));
     box.nameBox()->setFocus();
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
     return utf8Text(box.selectedFiles().first());

@@ -19,9 +19,12 @@ QStringList nameFilters(std::string_view filter);
 /// without, else the name with the ending.
 std::string pathForName(const std::string& path, const std::string& ending);
 
-/// Asks for a file. Open takes a name that doesn't exist yet, Save asks before it takes one that does.
-/// `suggested` is the name in the box at first.
+/// Whether Save asks before it takes a file that is there: always, or not for the name that was proposed,
+/// which is the open problem's own.
+enum class Overwriting { Asked, ProposedUnasked };
+
+/// Asks for a file. Open takes a name that doesn't exist yet.
 std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog,
-                                      const QString& suggested = {});
+                                      Overwriting overwriting = Overwriting::Asked);
 
 } // namespace vantore

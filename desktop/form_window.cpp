@@ -4,23 +4,22 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <cmath>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "desktop/report_view.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
 namespace {
 
-constexpr double margin = 120;     // twips, beside a control that reaches beyond its form
 constexpr double noteFontSize = 8; // points of the design
 constexpr int noteMargin = 3;      // pixels
 constexpr int leaveDelay = 0;      // milliseconds
@@ -32,47 +31,55 @@ constexpr int smallestHeight = 120;
 } // namespace
 
 FormWindow::FormWindow(Form& form, WindowSteps& steps, QWidget* parent)
-    : QWidget(parent, Qt::Window), form_(form), steps_(steps),
-      canvas_(std::make_unique<QWidget>(this).release()), note_(std::make_unique<QLabel>(this).release()),
-      edge_(std::make_unique<QFrame>(this).release()) {
+    : QWidget(parent, Qt::Window), form_(form), steps_(steps), canvas_(*new QWidget(this)),
+      note_(*new QLabel(this)), edge_(*new QFrame(this)) {
     setObjectName(qtText(form.name()));
-    canvas_->setAutoFillBackground(true);
-    note_->setObjectName("runningNote");
-    note_->setAutoFillBackground(true);
-    note_->setMargin(noteMargin);
-    note_->hide();
-    edge_->setFrameStyle(QFrame::Box | QFrame::Plain);
-    edge_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    edge_->hide();
-    setMinimumSize(std::min(smallestWidth, designSize().width()),
-                   std::min(smallestHeight, designSize().height()));
+    canvas_.setAutoFillBackground(true);
+    note_.setObjectName("runningNote");
+    note_.setAutoFillBackground(true);
+    note_.setMargin(noteMargin);
+    note_.hide();
+    edge_.setFrameStyle(QFrame::Box | QFrame::Plain);
+    edge_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    edge_.hide();
+    setMinimumSize(QSize(smallestWidth, smallestHeight).boundedTo(designSize(form)));
+    makeShortcuts();
     makeViews();
+}
+
+/// Undo and redo work wherever the focus is.
+void FormWindow::makeShortcuts() {
+    const auto add = [this](const QKeySequence& keys, void (Form::*step)()) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this,
+                [this, step] { act([this, step] { (form_.*step)(); }); });
+    };
+    add(Qt::CTRL | Qt::Key_Z, &Form::undo);
+    add(Qt::CTRL | Qt::Key_Y, &Form::redo);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Form::redo);
 }
 
 void FormWindow::makeViews() {
     QWidget* before = nullptr;
     for (const auto& control : form_.controls()) {
-        views_.push_back(makeView(*this, *control, canvas_));
-        QWidget* widget = views_.back()->widget();
+        QWidget* widget = viewOf(*control).widget();
         if (before != nullptr) setTabOrder(before, widget);
         before = widget;
     }
 }
 
-QSize FormWindow::designSize() const {
-    double width = form_.width;
-    double height = form_.height;
-    for (const auto& control : form_.controls()) {
-        if (control->design.right() > form_.width) width = std::max(width, control->design.right() + margin);
-        if (control->design.bottom() > form_.height)
-            height = std::max(height, control->design.bottom() + margin);
-    }
-    return {static_cast<int>(std::ceil(width * form_.scale().x / twipsPerPixel)),
-            static_cast<int>(std::ceil(height * form_.scale().y / twipsPerPixel))};
+/// The control's view, made on the page of its container.
+ControlView& FormWindow::viewOf(Control& control) {
+    if (const auto known = viewOf_.find(&control); known != viewOf_.end()) return *known->second;
+    QWidget* parent = &canvas_;
+    for (const auto& each : form_.controls())
+        if (each.get() == control.container) parent = viewOf(*each).page(control.page);
+    views_.push_back(makeView(*this, control, parent));
+    viewOf_[&control] = views_.back().get();
+    return *views_.back();
 }
 
 QSize FormWindow::sizeOn(const QRect& screen) const {
-    const QSize design = designSize();
+    const QSize design = designSize(form_);
     const bool fills = form_.width * form_.scale().x >= screen.width() * twipsPerPixel &&
                        form_.height * form_.scale().y >= screen.height() * twipsPerPixel;
     if (fills) return screen.size();
@@ -81,15 +88,8 @@ QSize FormWindow::sizeOn(const QRect& screen) const {
 }
 
 QWidget* FormWindow::widgetOf(const Control& control) const {
-    for (const auto& view : views_)
-        if (&view->control() == &control) return view->widget();
-    return nullptr;
-}
-
-void FormWindow::behaveAsDialog() {
-    dialog_ = true;
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
-    setWindowModality(Qt::ApplicationModal);
+    const auto found = viewOf_.find(&control);
+    return found == viewOf_.end() ? nullptr : found->second->widget();
 }
 
 // The user's steps
@@ -127,32 +127,17 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) return act([this] { form_.interrupt(); });
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (dialog_ && event->key() == Qt::Key_Escape) return act([this] { form_.close(); });
-    if (dialog_ && enter) return pressDefault();
-    if (dialog_ && pressLetter(event->text())) return;
-    QWidget::keyPressEvent(event);
+    if (!scrollReport(event)) QWidget::keyPressEvent(event);
 }
 
-/// In a dialog the mnemonic letter needs no Alt where no text box takes it.
-bool FormWindow::pressLetter(const QString& letter) {
-    const auto has = [&](const Control& control) {
-        const QKeySequence mnemonic = QKeySequence::mnemonic(qtText(control.caption));
-        return !mnemonic.isEmpty() && mnemonic == QKeySequence("Alt+" + letter.toUpper());
-    };
-    for (const auto& control : form_.controls()) {
-        auto* button = dynamic_cast<Button*>(control.get());
-        if (button == nullptr || letter.isEmpty() || !has(*button)) continue;
-        act([this, button] { form_.press(*button); });
-        return true;
-    }
+/// A report is read with the keys at once, though its Continue button has the focus.
+bool FormWindow::scrollReport(QKeyEvent* event) {
+    const auto keys = {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End};
+    if (std::find(keys.begin(), keys.end(), event->key()) == keys.end()) return false;
+    for (const auto& view : views_)
+        if (auto* report = dynamic_cast<ReportBox*>(view->widget()); report != nullptr && report->isVisible())
+            return QApplication::sendEvent(report, event);
     return false;
-}
-
-void FormWindow::pressDefault() {
-    for (const auto& control : form_.controls())
-        if (auto* button = dynamic_cast<Button*>(control.get()))
-            return act([this, button] { form_.press(*button); });
 }
 
 // Showing the form
@@ -162,28 +147,16 @@ void FormWindow::refresh() {
     if (windowTitle() != title) setWindowTitle(title);
     syncColours();
     syncNote();
-    layOut();
-    canvas_->setEnabled(form_.enabled);
+    canvas_.setEnabled(form_.enabled);
     syncViews();
     takeFocus();
-    if (form_.closed && onClosed) onClosed();
-}
-
-void FormWindow::layOut() {
-    const int strip = note_->isHidden() ? 0 : note_->sizeHint().height();
-    const QSize room(width(), height() - strip);
-    const QSize design = designSize();
-    zoom_ = std::min(room.width() / static_cast<double>(design.width()),
-                     room.height() / static_cast<double>(design.height()));
-    canvas_->setGeometry(0, 0, room.width(), room.height());
-    note_->setGeometry(0, room.height(), room.width(), strip);
-    edge_->setGeometry(rect());
 }
 
 void FormWindow::syncViews() {
-    const Layout layout{form_.scale().x * zoom_ / twipsPerPixel, form_.scale().y * zoom_ / twipsPerPixel,
-                        zoom_};
-    for (const auto& view : views_) view->sync(layout);
+    canvas_.setGeometry(rect());
+    edge_.setGeometry(rect());
+    layout_ = FormLayout(form_, size());
+    for (const auto& view : views_) view->sync(layout_);
 }
 
 void FormWindow::syncColours() {
@@ -191,15 +164,17 @@ void FormWindow::syncColours() {
     backColour_ = form_.backColour;
     QPalette palette = QApplication::palette();
     if (backColour_ != Form::buttonFace) palette.setColor(QPalette::Window, qtColour(backColour_));
-    canvas_->setPalette(palette);
+    canvas_.setPalette(palette);
 }
 
+/// The note stands at the foot, where the buttons are that can't be pressed while it is there.
 void FormWindow::syncNote() {
-    const double scale = std::min(form_.scale().x, form_.scale().y);
-    const QFont font = qtFont({.size = noteFontSize * scale});
-    if (note_->font() != font) note_->setFont(font);
-    note_->setText(qtText(form_.runningNote));
-    note_->setVisible(!form_.runningNote.empty());
+    const QFont font = qtFont({.size = noteFontSize * std::min(form_.scale().x, form_.scale().y)});
+    if (note_.font() != font) note_.setFont(font);
+    note_.setText(qtText(form_.runningNote));
+    note_.setVisible(!form_.runningNote.empty());
+    const int strip = note_.sizeHint().height();
+    note_.setGeometry(0, height() - strip, width(), strip);
 }
 
 void FormWindow::takeFocus() {
@@ -213,8 +188,8 @@ void FormWindow::takeFocus() {
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) {
-    layOut();
     syncViews();
+    syncNote();
 }
 
 void FormWindow::showEvent(QShowEvent* event) {
@@ -227,11 +202,11 @@ void FormWindow::showEvent(QShowEvent* event) {
 /// window behind it. A frame takes room; what would then lie off the screen is drawn smaller.
 void FormWindow::settleFrame() {
     const bool framed = windowHandle() != nullptr && !windowHandle()->frameMargins().isNull();
-    edge_->setVisible(!framed);
-    edge_->raise();
+    edge_.setVisible(!framed);
+    edge_.raise();
     const QRect room = screen()->availableGeometry();
     const QSize excess(frameGeometry().right() - room.right(), frameGeometry().bottom() - room.bottom());
-    if (framed && !dialog_ && !isMaximized() && (excess.width() > 0 || excess.height() > 0))
+    if (framed && !isMaximized() && (excess.width() > 0 || excess.height() > 0))
         resize(width() - std::max(0, excess.width()), height() - std::max(0, excess.height()));
 }
 

@@ -1,82 +1,63 @@
 #pragma once
 
-#include <QAbstractScrollArea>
-#include <QPoint>
+#include <QTableView>
 
-#include "desktop/grid_geometry.h"
-#include "desktop/grid_painter.h"
+#include "desktop/control_view.h"
+#include "desktop/grid_model.h"
 
 namespace vantore {
 
+class Heading;
+
 /// A grid on the screen. It holds no text of its own: each stroke and click goes to the form, and what is
-/// seen is read from the grid.
-class GridView : public QAbstractScrollArea {
+/// seen is read from the grid. Moving and highlighting are the toolkit's; the form takes them over.
+class GridView : public QTableView {
   public:
     GridView(QWidget* parent, ViewContext& context, DataGrid& grid);
 
     /// Takes over the grid's shape, texts and current cell.
-    void refresh(const Layout& layout, const QFont& font);
+    void refresh(const FormLayout& layout, const QFont& font);
 
-    /// Where a cell is seen in the viewport.
-    QRect cellRect(int row, int col) const;
+    /// Where a cell is seen in the viewport; row and col from 1.
+    QRect cellRect(int row, int col) const { return visualRect(model_.at(row, col)); }
 
-    void copy() const;
-    void cut();
-    void paste();
-    void selectAll();
-
-    /// Empties the highlighted cells.
-    void clearBlock();
+    /// Highlights all cells.
+    void selectAll() override;
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void scrollContentsBy(int dx, int dy) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
 
   private:
-    GridLook look() const;
-    QPoint scroll() const;
-    QSize room() const;
-    void updateScrollBars();
-    void keepInView(GridPlace place);
-    void act(const std::function<void()>& action);
-    void highlight(GridPlace from, GridPlace to);
-    void highlightStill(GridPlace from, GridPlace to);
-    void pressAt(GridPlace place, bool extends);
-    void selectLine(GridPlace head, bool extends);
-    void resizeColumn(int right);
-    bool moveKey(QKeyEvent* event);
-    bool commandKey(QKeyEvent* event);
-    bool editKey(QKeyEvent* event);
+    void makeHeadings();
+    void makeMouse();
+    void shape(const FormLayout& layout);
+
+    void act(const std::function<void()>& action) { context_.act(action); }
+    void key(int code);
     void typed(const QString& text);
-    void enter();
-    GridPlace movedBy(const QKeyEvent& event, GridPlace from) const;
-    GridPlace far() const;
-    int pageRows() const;
-    bool hasCells() const { return grid_.rows() > 1 && grid_.cols() > 1; }
+    bool commandKey(const QKeyEvent& event);
+    bool editKey(const QKeyEvent& event);
+    void copyBlock() const;
+    void pasteBlock();
+    void clearBlock();
+
+    void highlight(const CellBlock& block);
+    void highlightLines(Qt::Orientation orientation);
+    void takeHighlight();
+    void showHighlight();
 
     ViewContext& context_;
     DataGrid& grid_;
-    GridGeometry geometry_;
-    QFont font_;
-    GridPlace kept_{-1, -1}; ///< the far corner of the highlight when it was last brought into view
-    GridPlace pressed_;
+    GridModel& model_;
+    Heading& columns_;
+    Heading& rowNumbers_;
     double pixelsOfTwip_ = 1;
-    int resized_ = -1;   ///< the column whose edge is being dragged
-    bool still_ = false; ///< a whole column or row is marked: nothing scrolls for its far end
-    bool dragging_ = false;
-    bool dragged_ = false;
+    bool showing_ = false; ///< the form's state is being shown: no change is a user's
 };
 
 /// The grid as a control of a window.
@@ -85,10 +66,7 @@ class GridControlView : public ControlView {
     GridControlView(ViewContext& context, DataGrid& grid, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
-
-  private:
-    GridView& view_;
+    void syncContent(const FormLayout& layout) override;
 };
 
 } // namespace vantore

@@ -4,11 +4,11 @@
 #include <QEvent>
 #include <QTimer>
 
-#include "desktop/windows.h"
+#include "desktop/open_windows.h"
 
 namespace vantore {
 
-KeyboardKeeper::KeyboardKeeper(const Windows& windows) : windows_(windows) {
+KeyboardKeeper::KeyboardKeeper(const OpenWindows& windows) : windows_(windows) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 

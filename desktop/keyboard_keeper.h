@@ -4,13 +4,13 @@
 
 namespace vantore {
 
-class Windows;
+class OpenWindows;
 
 /// Gives the keyboard to the window in front when a dialog over it has gone: not every window manager does,
 /// and a display may have none.
 class KeyboardKeeper : public QObject {
   public:
-    explicit KeyboardKeeper(const Windows& windows);
+    explicit KeyboardKeeper(const OpenWindows& windows);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -18,7 +18,7 @@ class KeyboardKeeper : public QObject {
   private:
     void giveBack() const;
 
-    const Windows& windows_;
+    const OpenWindows& windows_;
 };
 
 } // namespace vantore

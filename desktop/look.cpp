@@ -6,10 +6,9 @@
 #include <QStyleFactory>
 #include <QWidget>
 #include <algorithm>
-#include <memory>
 
-#include "desktop/fonts.h"
 #include "desktop/picture_view.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
@@ -40,7 +39,7 @@ class SuiteStyle : public QProxyStyle {
 } // namespace
 
 void setLook() {
-    QApplication::setStyle(std::make_unique<SuiteStyle>().release()); // the application's own
+    QApplication::setStyle(new SuiteStyle); // the application's own
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setWindowIcon(QIcon(pictureFile("icon")));
     substituteFonts();

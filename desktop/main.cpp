@@ -2,8 +2,8 @@
 #include <QFileInfo>
 
 #include "desktop/desktop_session.h"
-#include "desktop/fonts.h"
 #include "desktop/look.h"
+#include "drawing/fonts.h"
 #include "shell/base/install_folder.h"
 #include "shell/base/text_file.h"
 #include "suite/module_list.h"

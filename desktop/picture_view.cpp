@@ -4,9 +4,8 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
-#include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
@@ -50,10 +49,10 @@ QString pictureFile(const std::string& name) {
 }
 
 PictureView::PictureView(ViewContext& context, Picture& picture, QWidget* parent)
-    : ControlView(context, picture, std::make_unique<Image>(parent, picture).release()) {
+    : ControlView(context, picture, new Image(parent, picture)) {
     widget()->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void PictureView::syncContent(const Layout& /*layout*/) {}
+void PictureView::syncContent(const FormLayout& /*layout*/) {}
 
 } // namespace vantore

@@ -10,7 +10,7 @@ class PictureView : public ControlView {
     PictureView(ViewContext& context, Picture& picture, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
 };
 
 /// The file among the program's resources that holds the drawing of that name.

@@ -1,16 +1,16 @@
 #include "desktop/printing.h"
 
 #include <QBuffer>
-#include <QFontMetricsF>
 #include <QLocale>
+#include <QPageRanges>
 #include <QPainter>
 #include <QPdfWriter>
 #include <algorithm>
 #include <variant>
 
-#include "desktop/drawing.h"
-#include "desktop/drawing_export.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 #include "shell/base/runtime_error.h"
 
 namespace vantore {
@@ -20,69 +20,132 @@ namespace {
 constexpr double margin = 12.7;                    // millimetres
 constexpr double hundredthsPerPoint = 2540.0 / 72; // hundredths of a millimetre
 constexpr double pointsPerInch = 72;
-constexpr int pdfDotsPerInch = 1200;
 constexpr double pixelsPerPoint = 96.0 / 72;
-constexpr double smallestShare = .3;
+constexpr int pdfDotsPerInch = 1200;
+constexpr double smallestShare = .8; // of a font's size
+constexpr double pageNumberGap = 6;  // points, from the page's lower margin
+const Font pageNumberFont{"Arial", 9, false};
 
-/// Lengths are measured at ten times the size: text metrics of small fonts are rounded to pixels.
-constexpr double measuringZoom = 10;
-
-QFontMetricsF metricsOf(const Font& font) {
-    return QFontMetricsF(qtFont(font, measuringZoom));
+/// Width and height of a line on paper, in points.
+QSizeF sizeOnPaper(const QString& text, const Font& font) {
+    return lineSize(text, font) / pixelsPerPoint;
 }
 
-double inPoints(double measured) {
-    return measured / measuringZoom / pixelsPerPoint;
+/// The font in which one of the painter's units, a point, is a point.
+Font inPoints(Font font, double share = 1) {
+    font.size *= share / pixelsPerPoint;
+    return font;
 }
 
 double widestLine(const PrintJob& job) {
     double widest = 0;
     for (const PrintOperation& operation : job.operations)
         if (const auto* line = std::get_if<PrintedLine>(&operation))
-            widest = std::max(widest, inPoints(metricsOf(line->font).horizontalAdvance(qtText(line->text))));
+            widest = std::max(widest, sizeOnPaper(qtText(line->text), line->font).width());
     return widest;
 }
+
+QSizeF roomOf(const QPageLayout& layout) {
+    return layout.paintRect(QPageLayout::Point).size();
+}
+
+/// The count of characters of `text` that fit the width, at least one; behind a blank where there is one in
+/// the second half of them.
+qsizetype fittingLength(const QString& text, const Font& font, double width) {
+    qsizetype fits = 1;
+    qsizetype beyond = text.size() + 1;
+    while (beyond - fits > 1) {
+        const qsizetype middle = fits + (beyond - fits) / 2;
+        (sizeOnPaper(text.left(middle), font).width() <= width ? fits : beyond) = middle;
+    }
+    if (fits >= text.size()) return text.size();
+    const qsizetype blank = text.lastIndexOf(' ', fits);
+    return blank > fits / 2 ? std::min(blank + 1, fits) : fits;
+}
+
+/// Puts one line after another on pages.
+class PageSetter {
+  public:
+    PageSetter(QSizeF room, double share) : room_(room), share_(share), pages_(1) {}
+
+    void add(const PrintedLine& line) {
+        Font font = line.font;
+        font.size *= share_;
+        QString rest = qtText(line.text);
+        do {
+            const qsizetype length = fittingLength(rest, font, room_.width());
+            addRow({rest.left(length), font, line.colour, 0});
+            rest = rest.mid(length);
+        } while (!rest.isEmpty());
+    }
+
+    void add(const PrintedPicture& picture) { pages_.back().pictures.push_back(&picture); }
+
+    std::vector<Page> pages() && { return std::move(pages_); }
+
+  private:
+    void addRow(PageLine row) {
+        const double height = sizeOnPaper(row.text, row.font).height();
+        if (top_ > 0 && top_ + height > room_.height()) {
+            pages_.emplace_back();
+            top_ = 0;
+        }
+        row.top = top_;
+        row.font = inPoints(row.font);
+        pages_.back().lines.push_back(std::move(row));
+        top_ += height;
+    }
+
+    QSizeF room_;
+    double share_;
+    double top_ = 0;
+    std::vector<Page> pages_;
+};
 
 /// Paints pages in points from the upper left corner of the printable area.
 class PagePainter {
   public:
-    PagePainter(QPagedPaintDevice& device, double fontShare)
-        : painter_(&device), device_(device), fontShare_(fontShare) {
+    explicit PagePainter(QPagedPaintDevice& device) : painter_(&device), room_(roomOf(device.pageLayout())) {
         if (!painter_.isActive()) throw RuntimeError(ErrorNumber::DeviceUnavailable);
-        const double dots = device.logicalDpiX() / pointsPerInch;
-        painter_.scale(dots, device.logicalDpiY() / pointsPerInch);
+        painter_.scale(device.logicalDpiX() / pointsPerInch, device.logicalDpiY() / pointsPerInch);
     }
 
-    void paint(const Page& page) {
+    void paint(const Page& page, const QString& number) {
         for (const PrintedPicture* picture : page.pictures) paint(*picture);
-        for (const PageLine& line : page.lines) paint(line);
+        for (const PageLine& line : page.lines) {
+            painter_.setPen(qtColour(line.colour));
+            drawLine(painter_, {0, line.top}, line.text, line.font);
+        }
+        painter_.setPen(Qt::black);
+        const QRectF foot(0, room_.height() + pageNumberGap, room_.width(), margin);
+        drawText(painter_, foot, Qt::AlignHCenter | Qt::TextDontClip, number, inPoints(pageNumberFont));
     }
 
     bool end() { return painter_.end(); }
 
   private:
     void paint(const PrintedPicture& picture) {
+        const auto* drawing = dynamic_cast<const Drawing*>(picture.picture.drawing.get());
+        if (drawing != nullptr) return paint(*drawing);
         const QImage image = imageOf(picture.picture);
-        const QSizeF room = device_.pageLayout().paintRect(QPageLayout::Point).size();
         QSizeF size(picture.width / hundredthsPerPoint, picture.height / hundredthsPerPoint);
-        if (size.width() > room.width() || size.height() > room.height())
-            size.scale(room, Qt::KeepAspectRatio);
+        if (size.width() > room_.width() || size.height() > room_.height())
+            size.scale(room_, Qt::KeepAspectRatio);
         painter_.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
         if (!image.isNull()) painter_.drawImage(QRectF(QPointF(0, 0), size), image);
     }
 
-    void paint(const PageLine& placed) {
-        // One unit is one point here, so a font of n points is n units high: 72 to the inch, not 96.
-        QFont font = qtFont(placed.line->font, fontShare_ / pixelsPerPoint, &device_);
-        painter_.setFont(font);
-        painter_.setPen(qtColour(placed.line->colour));
-        const double ascent = inPoints(metricsOf(placed.line->font).ascent()) * fontShare_;
-        painter_.drawText(QPointF(0, placed.top + ascent), qtText(placed.line->text));
+    void paint(const Drawing& drawing) {
+        const double zoom =
+            drawing.size().scaled(room_, Qt::KeepAspectRatio).width() / drawing.size().width();
+        painter_.save();
+        painter_.scale(zoom, zoom);
+        drawing.paint(painter_);
+        painter_.restore();
     }
 
     QPainter painter_;
-    QPagedPaintDevice& device_;
-    double fontShare_;
+    QSizeF room_;
 };
 
 } // namespace
@@ -95,39 +158,34 @@ QPageLayout pageLayout(Orientation orientation) {
 }
 
 Printer::Area printableArea(const QPageLayout& layout) {
-    const QRectF room = layout.paintRect(QPageLayout::Point);
+    const QSizeF room = roomOf(layout);
     return {room.width() * hundredthsPerPoint, room.height() * hundredthsPerPoint};
 }
 
-PagedDocument layOutPages(const PrintJob& job, QSizeF room) {
-    PagedDocument document;
+Orientation orientationOf(const PrintJob& job) {
+    const bool wide = widestLine(job) * smallestShare > roomOf(pageLayout(Orientation::Portrait)).width();
+    return wide ? Orientation::Landscape : job.orientation;
+}
+
+std::vector<Page> layOutPages(const PrintJob& job, QSizeF room) {
     const double widest = widestLine(job);
-    if (widest > room.width()) document.fontShare = std::max(room.width() / widest, smallestShare);
-    document.pages.emplace_back();
-    double top = 0;
-    for (const PrintOperation& operation : job.operations) {
-        if (const auto* picture = std::get_if<PrintedPicture>(&operation)) {
-            document.pages.back().pictures.push_back(picture);
-            continue;
-        }
-        const auto& line = std::get<PrintedLine>(operation);
-        const double height = inPoints(metricsOf(line.font).lineSpacing()) * document.fontShare;
-        if (top > 0 && top + height > room.height()) {
-            document.pages.emplace_back();
-            top = 0;
-        }
-        document.pages.back().lines.push_back({&line, top});
-        top += height;
-    }
-    return document;
+    PageSetter setter(room, widest > room.width() ? std::max(room.width() / widest, smallestShare) : 1);
+    for (const PrintOperation& operation : job.operations)
+        std::visit([&](const auto& content) { setter.add(content); }, operation);
+    return std::move(setter).pages();
 }
 
 void printOn(QPagedPaintDevice& device, const PrintJob& job) {
-    const PagedDocument document = layOutPages(job, device.pageLayout().paintRect(QPageLayout::Point).size());
-    PagePainter painter(device, document.fontShare);
-    for (std::size_t i = 0; i < document.pages.size(); ++i) {
-        if (i > 0 && !device.newPage()) throw RuntimeError(ErrorNumber::DeviceUnavailable);
-        painter.paint(document.pages[i]);
+    const std::vector<Page> pages = layOutPages(job, roomOf(device.pageLayout()));
+    const QPageRanges wanted = device.pageRanges();
+    PagePainter painter(device);
+    bool first = true;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const auto number = static_cast<int>(i) + 1;
+        if (!wanted.isEmpty() && !wanted.contains(number)) continue;
+        if (!first && !device.newPage()) throw RuntimeError(ErrorNumber::DeviceUnavailable);
+        first = false;
+        painter.paint(pages[i], QString("Page %1 of %2").arg(number).arg(pages.size()));
     }
     if (!painter.end()) throw RuntimeError(ErrorNumber::DeviceUnavailable);
 }
@@ -140,7 +198,7 @@ QByteArray pdfOf(const PrintJob& job) {
     writer.setResolution(pdfDotsPerInch);
     writer.setTitle(qtText(job.title));
     writer.setCreator("Vantore");
-    writer.setPageLayout(pageLayout(job.orientation));
+    writer.setPageLayout(pageLayout(orientationOf(job)));
     printOn(writer, job);
     return bytes;
 }

@@ -2,13 +2,15 @@
 
 #include <QPageLayout>
 #include <QPagedPaintDevice>
+#include <QString>
 #include <vector>
 
 #include "shell/platform.h"
 
 namespace vantore {
 
-/// Printing of documents: lines that flow down the pages, pictures at a page's origin.
+/// Printing of documents: lines that flow down the pages, pictures at a page's origin, a number under each
+/// page.
 
 /// The paper of the user's country, A4 or Letter, with the suite's margins.
 QPageLayout pageLayout(Orientation orientation);
@@ -16,9 +18,14 @@ QPageLayout pageLayout(Orientation orientation);
 /// The room between the margins, in hundredths of a millimetre.
 Printer::Area printableArea(const QPageLayout& layout);
 
+/// The orientation that a document asks for; one whose lines are too wide for upright paper lies across.
+Orientation orientationOf(const PrintJob& job);
+
 /// One line of a page: its top in points from the page's upper margin.
 struct PageLine {
-    const PrintedLine* line;
+    QString text;
+    Font font; ///< as it is painted
+    int colour;
     double top;
 };
 
@@ -28,18 +35,13 @@ struct Page {
     std::vector<const PrintedPicture*> pictures;
 };
 
-/// A document on its pages. Where its widest line would be cut, all fonts are smaller by `fontShare`, so
-/// that columns stay under each other.
-struct PagedDocument {
-    std::vector<Page> pages;
-    double fontShare = 1;
-};
+/// Lays a document out on pages of that room, in points. Where its widest line would be cut, all fonts are
+/// smaller by as much as that needs, so that columns stay under each other, but by no more than a fifth;
+/// what is still too long goes on in a further line. The pages point to the job's pictures.
+std::vector<Page> layOutPages(const PrintJob& job, QSizeF room);
 
-/// Lays a document out for pages of that room, in points. It points into the job.
-PagedDocument layOutPages(const PrintJob& job, QSizeF room);
-
-/// Paints the document on a printer or a PDF file whose page layout is set. DeviceUnavailable when the device
-/// refuses.
+/// Paints the document on a printer or a PDF file whose page layout is set, or those of its pages that the
+/// device is asked for. DeviceUnavailable when the device refuses.
 void printOn(QPagedPaintDevice& device, const PrintJob& job);
 
 /// The document as a PDF file's bytes.

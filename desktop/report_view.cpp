@@ -3,62 +3,61 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
-#include <algorithm>
-#include <memory>
 
-#include "desktop/drawing.h"
 #include "desktop/exports.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
 ReportBox::ReportBox(QWidget* parent, ViewContext& context, ReportScreen& report)
-    : QTextEdit(parent), context_(context), report_(report) {
+    : QPlainTextEdit(parent), context_(context), report_(report) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
-    setAcceptRichText(false);
-    setLineWrapMode(QTextEdit::NoWrap);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
 }
 
 void ReportBox::refresh(double zoom) {
     const std::vector<ReportLine>& lines = report_.lines();
-    const bool grown = zoom == zoom_ && shown_.size() <= lines.size() &&
-                       std::equal(shown_.begin(), shown_.end(), lines.begin());
-    if (grown && shown_.size() == lines.size()) return;
-    zoom_ = zoom;
+    const bool grown = zoom == zoom_ && writing_ == report_.writing() && shown_ > 0;
+    if (grown && shown_ == lines.size()) return;
     if (!grown) {
         clear();
-        shown_.clear();
+        shown_ = 0;
+        // The font of nearly all lines is the document's; the others bear theirs.
+        bodyFont_ = lines.empty() ? Font{} : lines.back().font;
+        document()->setDefaultFont(qtFont(bodyFont_, zoom));
     }
+    zoom_ = zoom;
+    writing_ = report_.writing();
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     cursor.beginEditBlock();
-    for (std::size_t i = shown_.size(); i < lines.size(); ++i) append(cursor, lines[i]);
+    for (; shown_ < lines.size(); ++shown_) append(cursor, lines[shown_], shown_ == 0);
     cursor.endEditBlock();
     if (!grown) moveCursor(QTextCursor::Start);
 }
 
-void ReportBox::append(QTextCursor& cursor, const ReportLine& line) {
+void ReportBox::append(QTextCursor& cursor, const ReportLine& line, bool first) {
     QTextCharFormat format;
-    format.setFont(qtFont(line.font, zoom_));
-    format.setForeground(qtColour(line.colour));
-    if (shown_.empty()) {
+    if (line.font != bodyFont_) format.setFont(qtFont(line.font, zoom_));
+    if (line.colour != colour::black) format.setForeground(qtColour(line.colour));
+    if (first) {
         cursor.setBlockCharFormat(format);
     } else {
         cursor.insertBlock(QTextBlockFormat(), format);
     }
     cursor.insertText(qtText(line.text), format);
-    shown_.push_back(line);
 }
 
 void ReportBox::keyPressEvent(QKeyEvent* event) {
     // Without a marked text Ctrl+C is the window's: it may stop a solver.
     if (event->matches(QKeySequence::Copy) && !textCursor().hasSelection()) return event->ignore();
-    QTextEdit::keyPressEvent(event);
+    QPlainTextEdit::keyPressEvent(event);
 }
 
 void ReportBox::contextMenuEvent(QContextMenuEvent* event) {
@@ -68,19 +67,18 @@ void ReportBox::contextMenuEvent(QContextMenuEvent* event) {
     copyItem->setEnabled(textCursor().hasSelection());
     menu.addAction("Select &all", this, [this] { selectAll(); })->setShortcut(QKeySequence::SelectAll);
     menu.addSeparator();
-    menu.addAction("&Save as text...", this, [this] {
-        context_.act([this] { saveReportAs({window(), context_.outputFolder()}, context_.form(), report_); });
-    });
-    menu.addAction("&Print...", this, [this] {
-        context_.act([this] { printReport({window(), context_.outputFolder()}, context_.form(), report_); });
-    });
+    const AskingPlace asking{window(), context_.outputFolder()};
+    menu.addAction("&Save as text...", this,
+                   [this, asking] { context_.act([&] { saveReportAs(asking, context_.form(), report_); }); });
+    menu.addAction("&Print...", this,
+                   [this, asking] { context_.act([&] { printReport(asking, context_.form(), report_); }); });
     menu.exec(event->globalPos());
 }
 
 ReportView::ReportView(ViewContext& context, ReportScreen& report, QWidget* parent)
-    : ControlView(context, report, std::make_unique<ReportBox>(parent, context, report).release()) {}
+    : ControlView(context, report, new ReportBox(parent, context, report)) {}
 
-void ReportView::syncContent(const Layout& layout) {
+void ReportView::syncContent(const FormLayout& layout) {
     static_cast<ReportBox&>(*widget()).refresh(layout.zoom);
 }
 

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QTextEdit>
+#include <QPlainTextEdit>
 
 #include "desktop/control_view.h"
 
 namespace vantore {
 
-/// The report box on the screen: read, marked, copied, scrolled both ways, never wrapped.
-class ReportBox : public QTextEdit {
+/// The report box on the screen: read, marked, copied, scrolled both ways, never wrapped. Only the lines in
+/// view are laid out.
+class ReportBox : public QPlainTextEdit {
   public:
     ReportBox(QWidget* parent, ViewContext& context, ReportScreen& report);
 
@@ -19,12 +20,14 @@ class ReportBox : public QTextEdit {
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
-    void append(QTextCursor& cursor, const ReportLine& line);
+    void append(QTextCursor& cursor, const ReportLine& line, bool first);
 
     ViewContext& context_;
     ReportScreen& report_;
-    std::vector<ReportLine> shown_;
+    std::size_t shown_ = 0; ///< lines
+    int writing_ = -1;      ///< of the report, as shown
     double zoom_ = 0;
+    Font bodyFont_;
 };
 
 class ReportView : public ControlView {
@@ -32,7 +35,7 @@ class ReportView : public ControlView {
     ReportView(ViewContext& context, ReportScreen& report, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
 };
 
 } // namespace vantore

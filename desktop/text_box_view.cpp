@@ -6,30 +6,39 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <algorithm>
+#include <limits>
 #include <memory>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
 namespace {
 
-constexpr int verticalPadding = 6; // pixels of frame and margin, above and below together
+constexpr int frameWidth = 3; // pixels of frame and margin on each side
+constexpr int textMargin = 5;
 
-/// A line editor whose undo and redo are the form's, which remember edits of all fields.
 class Editor : public QLineEdit {
   public:
     Editor(QWidget* parent, ViewContext& context, TextBox& box)
-        : QLineEdit(parent), context_(context), box_(box) {}
+        : QLineEdit(parent), context_(context), box_(box) {
+        setMaxLength(std::numeric_limits<int>::max());
+        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+            context_.act([&] { context_.form().type(box_, utf8Text(text)); });
+        });
+    }
 
   protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride) return QLineEdit::event(event);
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool forms = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+        return !forms && QLineEdit::event(event);
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->matches(QKeySequence::Undo)) return context_.act([this] { context_.form().undo(); });
-        if (event->matches(QKeySequence::Redo)) return context_.act([this] { context_.form().redo(); });
         // Without a marked text Ctrl+C is the window's: it may stop a solver.
-        const bool windows = event->matches(QKeySequence::Copy) &&
-                             (!hasSelectedText() || !context_.form().runningNote.empty());
-        if (windows) return event->ignore();
+        if (event->matches(QKeySequence::Copy) && !hasSelectedText()) return event->ignore();
         QLineEdit::keyPressEvent(event);
     }
 
@@ -41,23 +50,18 @@ class Editor : public QLineEdit {
         if (!stays) context_.left(box_);
     }
 
+    /// The toolkit's menu begins with its own undo and redo.
     void contextMenuEvent(QContextMenuEvent* event) override {
-        QMenu menu;
-        const auto add = [&](const char* text, QKeySequence::StandardKey key, bool enabled, auto action) {
-            QAction* item = menu.addAction(text);
-            item->setShortcut(key);
-            item->setEnabled(enabled);
-            connect(item, &QAction::triggered, this, action);
+        const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+        const auto make = [&](QAction* action, bool possible, void (Form::*step)()) {
+            action->disconnect();
+            action->setEnabled(possible);
+            connect(action, &QAction::triggered, this,
+                    [this, step] { context_.act([this, step] { (context_.form().*step)(); }); });
         };
-        const bool marked = hasSelectedText();
-        add("&Undo", QKeySequence::Undo, true, [this] { context_.act([this] { context_.form().undo(); }); });
-        add("&Redo", QKeySequence::Redo, true, [this] { context_.act([this] { context_.form().redo(); }); });
-        menu.addSeparator();
-        add("Cu&t", QKeySequence::Cut, marked, [this] { cut(); });
-        add("&Copy", QKeySequence::Copy, marked, [this] { copy(); });
-        add("&Paste", QKeySequence::Paste, true, [this] { paste(); });
-        add("Select &all", QKeySequence::SelectAll, true, [this] { selectAll(); });
-        menu.exec(event->globalPos());
+        make(menu->actions().at(0), context_.form().canUndo(), &Form::undo);
+        make(menu->actions().at(1), context_.form().canRedo(), &Form::redo);
+        menu->exec(event->globalPos());
     }
 
   private:
@@ -68,27 +72,24 @@ class Editor : public QLineEdit {
 } // namespace
 
 TextBoxView::TextBoxView(ViewContext& context, TextBox& box, QWidget* parent)
-    : ControlView(context, box, std::make_unique<Editor>(parent, context, box).release()), box_(box),
-      edit_(static_cast<QLineEdit&>(*widget())) {
-    QObject::connect(&edit_, &QLineEdit::textEdited, &edit_, [this] { typed(); });
-}
+    : ControlView(context, box, new Editor(parent, context, box)), box_(box),
+      edit_(static_cast<QLineEdit&>(*widget())) {}
 
-void TextBoxView::typed() {
-    const std::string text = utf8Text(edit_.text());
-    context().act([&] { context().form().type(box_, text); });
-}
-
-void TextBoxView::syncContent(const Layout& layout) {
+void TextBoxView::syncContent(const FormLayout& layout) {
+    // While a solver runs nothing is edited.
+    edit_.setEnabled(box_.enabled() && context().form().runningNote.empty());
     const QString text = qtText(box_.text());
     if (edit_.text() != text) {
         const int cursor = edit_.cursorPosition();
         edit_.setText(text);
         edit_.setCursorPosition(edit_.hasFocus() ? std::min(cursor, static_cast<int>(text.size())) : 0);
     }
-    // The height alone limits the font: a text may be longer than its box.
-    const QSize room(10000, edit_.height() - verticalPadding);
-    const QFont font = fittedFont("Xg", room, Qt::TextSingleLine, layout);
-    if (edit_.font() != font) edit_.setFont(font);
+    const QSize room = edit_.size() - QSize(2 * (frameWidth + textMargin), 2 * frameWidth);
+    const FittedText& shown = fitted(text, room, Qt::TextSingleLine, layout);
+    // A text that is only too long is moved through its box; one line too high is smaller.
+    const QFont heightFont = fittedText("Xg", font(layout), QSize(room.height() * 10, room.height()), 0).font;
+    const QFont& wanted = shown.cut ? heightFont : shown.font;
+    if (edit_.font() != wanted) edit_.setFont(wanted);
 }
 
 } // namespace vantore

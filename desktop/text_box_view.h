@@ -6,16 +6,15 @@ class QLineEdit;
 
 namespace vantore {
 
+/// A text box. Undo and redo are the form's; a text longer than the box comes as a tip.
 class TextBoxView : public ControlView {
   public:
     TextBoxView(ViewContext& context, TextBox& box, QWidget* parent);
 
   protected:
-    void syncContent(const Layout& layout) override;
+    void syncContent(const FormLayout& layout) override;
 
   private:
-    void typed();
-
     TextBox& box_;
     QLineEdit& edit_;
 };

@@ -14,7 +14,7 @@
 #include "shell/base/install_folder.h"
 #include "shell/base/text_file.h"
 #ifdef VANTORE_DESKTOP
-#include "desktop/svg_file.h"
+#include "drawing/svg_file.h"
 #endif
 
 namespace {

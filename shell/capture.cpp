@@ -20,7 +20,9 @@ CapturedPicture captureWindow(Display& display, const Form& form, const Display:
     inside.width = std::clamp(area.width, 0, client.width - inside.left);
     inside.height = std::clamp(area.height, 0, client.height - inside.top);
     CapturedPicture picture = display.capture(form, inside);
-    return createBitMapPicture(picture.width, picture.height, std::move(picture.pixels));
+    CapturedPicture owned = createBitMapPicture(picture.width, picture.height, std::move(picture.pixels));
+    owned.drawing = std::move(picture.drawing);
+    return owned;
 }
 
 CapturedPicture createBitMapPicture(int width, int height, std::vector<std::uint32_t> pixels) {
@@ -28,7 +30,7 @@ CapturedPicture createBitMapPicture(int width, int height, std::vector<std::uint
     if (!sized || (!pixels.empty() &&
                    pixels.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height)))
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
-    return {width, height, std::move(pixels)};
+    return {.width = width, .height = height, .pixels = std::move(pixels)};
 }
 
 void printPictureToFitPage(PrintJob& job, const Printer& printer, const CapturedPicture& picture) {

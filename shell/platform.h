@@ -135,6 +135,8 @@ class Display {
     /// Width and height of a window's client area in pixels and a picture of part of it.
     struct PixelRect {
         int left = 0, top = 0, width = 0, height = 0;
+
+        bool operator==(const PixelRect&) const = default;
     };
     virtual PixelRect clientArea(const Form& form) const = 0;
     virtual CapturedPicture capture(const Form& form, const PixelRect& area) = 0;

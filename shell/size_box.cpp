@@ -43,7 +43,8 @@ bool SizeBox::goesOn(const std::string& typed) const {
     return isOneCharacterMore(typed, seen_) || isOneCharacterMore(seen_, typed);
 }
 
-/// Where a size too small is told of, every text but the empty one is a size; elsewhere one without a digit is none.
+/// Where a size too small is told of, every text but the empty one is a size; elsewhere one without a digit
+/// is none.
 bool SizeBox::isSize(const std::string& typed) const {
     if (rules_.onShort) return !typed.empty();
     return typed.find_first_of("0123456789") != std::string::npos;

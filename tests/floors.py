@@ -21,7 +21,7 @@ BELOW = {
     "suite": SHELL + SUBSYSTEMS,
     "drawing": ["shell/forms", "shell/base"],
     "processes": SHELL,
-    "script": SHELL + ["processes", "suite", "drawing", "desktop"],
+    "script": SHELL + ["processes", "suite", "drawing"],
     "desktop": SHELL + ["processes", "suite", "drawing"],
     "solvers": ["shell/base"] + SUBSYSTEMS,
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -10,12 +11,23 @@
 
 namespace vantore {
 
+/// What a captured picture shows, as its platform can draw it again in any size; opaque to all others.
+class Redrawable {
+  public:
+    Redrawable() = default;
+    virtual ~Redrawable() = default;
+    Redrawable(const Redrawable&) = default;
+    Redrawable& operator=(const Redrawable&) = default;
+};
+
 /// A picture of part of the screen: its size in pixels and the pixels 0xAARRGGBB, row by row. A platform
-/// that has no screen takes pictures without pixels.
+/// that has no screen takes pictures without pixels. On paper the drawing stands for the pixels, where there
+/// is one.
 struct CapturedPicture {
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> pixels;
+    std::vector<std::uint32_t> pixels = {};
+    std::shared_ptr<const Redrawable> drawing = {};
 };
 
 enum class Orientation { Portrait, Landscape };

@@ -21,14 +21,21 @@ class ReportScreen : public Control {
   public:
     using Control::Control;
 
-    void clear() { lines_.clear(); }
+    void clear() {
+        lines_.clear();
+        ++writing_;
+    }
 
     /// Adds one line at the end.
     void add(ReportLine line) { lines_.push_back(std::move(line)); }
 
     const std::vector<ReportLine>& lines() const { return lines_; }
 
+    /// Another number whenever the report has been begun anew; lines are only added to one.
+    int writing() const { return writing_; }
+
   private:
+    int writing_ = 0;
     std::vector<ReportLine> lines_;
 };
 

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "drawing/drawing_export.h"
 #include "shell/capture.h"
 #include "shell/dialog_form.h"
 #include "tests/desktop/sample_form.h"
@@ -24,7 +25,7 @@ class DesktopPlatformTest : public testing::Test, public WindowSteps {
 
     FormWindow& show() {
         FormWindow& window = windows.open(form, *this);
-        window.resize(window.designSize());
+        window.resize(designSize(form));
         window.refresh();
         window.show();
         QApplication::processEvents();
@@ -32,7 +33,7 @@ class DesktopPlatformTest : public testing::Test, public WindowSteps {
     }
 
     SampleForm form;
-    Windows windows;
+    OpenWindows windows;
     DesktopPlatform platform{windows, *this};
 };
 
@@ -44,7 +45,7 @@ TEST_F(DesktopPlatformTest, AQuestionWaitsForItsAnswerOverTheCurrentState) {
     QColor behind;
     QTimer::singleShot(50, [&] {
         behind = windows.find(form)->canvas().grab().toImage().pixelColor(100, 300);
-        QTest::keyClick(windows.front(), Qt::Key_Y, Qt::AltModifier);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Y, Qt::AltModifier);
     });
     platform.showModal(question);
     EXPECT_EQ(question.reply, replyYes);
@@ -55,12 +56,46 @@ TEST_F(DesktopPlatformTest, AQuestionWaitsForItsAnswerOverTheCurrentState) {
 TEST_F(DesktopPlatformTest, ACaptureHoldsTheClientAreaAsItIsNow) {
     show();
     form.backColour = colour::brightWhite;
-    form.cmdSolve.visible = false;
+    form.cmdSolve.seen = [] { return false; };
     const CapturedPicture picture = captureClient(platform, form);
     EXPECT_EQ(picture.width, 640);
     EXPECT_EQ(picture.height, 480);
     ASSERT_EQ(picture.pixels.size(), 640U * 480U);
     EXPECT_EQ(picture.pixels[440 * 640 + 50], 0xFFFFFFFFU) << "where the hidden button stood";
+}
+
+TEST_F(DesktopPlatformTest, ACaptureCanBeDrawnAgain) {
+    show();
+    form.surface.box(0, 0, 299, 199, 12, true);
+    const CapturedPicture whole = captureClient(platform, form);
+    const auto* drawing = dynamic_cast<const Drawing*>(whole.drawing.get());
+    ASSERT_NE(drawing, nullptr);
+    form.surface.clear();
+    EXPECT_EQ(imageOf(*drawing, 1).pixelColor(100, 300), QColor(255, 0, 0)) << "as it was then";
+    EXPECT_EQ(captureWindow(platform, form, {0, 0, 100, 100}).drawing, nullptr);
+}
+
+TEST_F(DesktopPlatformTest, ADialogLeavesTheResultInSight) {
+    const FormWindow& window = show();
+    form.surface.box(0, 0, 299, 199, 12, true);
+    MsgeBx message({}, "Short", "SAMPLE", 8);
+    message.layOut(platform, "Center");
+    QRect place;
+    QTimer::singleShot(50, [&] {
+        place = QApplication::activeModalWidget()->frameGeometry();
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    platform.showModal(message);
+    const QWidget& surface = *window.widgetOf(form.surface);
+    const QRect result(surface.mapToGlobal(QPoint(0, 0)), surface.size());
+    EXPECT_FALSE(place.intersects(result));
+}
+
+TEST_F(DesktopPlatformTest, TheSettingsAreThoseOfTheScreen) {
+    EXPECT_EQ(platform.resolution().width, platform.screen().width / twipsPerPixel);
+    EXPECT_EQ(platform.dotsPerInch(), 96);
+    EXPECT_EQ(platform.language(), "English");
+    EXPECT_EQ(platform.volumes().at(0), "/");
 }
 
 TEST_F(DesktopPlatformTest, PartOfAWindowIsCutToIt) {
@@ -70,11 +105,9 @@ TEST_F(DesktopPlatformTest, PartOfAWindowIsCutToIt) {
     EXPECT_EQ(picture.height, 10);
 }
 
-TEST_F(DesktopPlatformTest, TheClipboardTakesTextsAndPicturesAndIsEmptied) {
+TEST_F(DesktopPlatformTest, TheClipboardTakesPicturesAndIsEmptied) {
     QClipboard& clipboard = *QGuiApplication::clipboard();
-    platform.setText("5 µm");
-    EXPECT_EQ(clipboard.text(), QString::fromUtf8("5 µm"));
-    platform.setPicture({2, 1, {0xFFFF0000, 0xFF0000FF}});
+    platform.setPicture({.width = 2, .height = 1, .pixels = {0xFFFF0000, 0xFF0000FF}});
     EXPECT_EQ(clipboard.image().pixelColor(1, 0), QColor(Qt::blue));
     platform.clear();
     EXPECT_TRUE(clipboard.image().isNull());

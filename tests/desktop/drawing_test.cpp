@@ -1,11 +1,11 @@
-#include "desktop/drawing.h"
+#include "drawing/drawing.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
 
-#include "desktop/chart_drawing.h"
-#include "desktop/drawing_export.h"
-#include "desktop/svg_file.h"
+#include "drawing/chart_drawing.h"
+#include "drawing/drawing_export.h"
+#include "drawing/svg_file.h"
 #include "shell/base/text_file.h"
 #include "tests/desktop/sample_form.h"
 #include "tests/support/temporary_folder.h"
@@ -14,7 +14,7 @@ namespace vantore::tests {
 namespace {
 
 QColor pixel(const Form& form, const Control& drawing, int x, int y) {
-    return imageOf(form, drawing, 1).pixelColor(x, y);
+    return imageOf(Drawing(form, drawing), 1).pixelColor(x, y);
 }
 
 TEST(Drawing, ShapesLieAtTheirUnitsInTheirColours) {
@@ -49,7 +49,7 @@ TEST(Drawing, ATextsPlaceIsTheTopLeftOfItsFirstCharacter) {
     form.surface.font = {"Arial", 12, false}; // 16 units high
     form.surface.moveTo(20, 40);
     form.surface.print("Xg");
-    const auto [first, last] = inkedRows(imageOf(form, form.surface, 1));
+    const auto [first, last] = inkedRows(imageOf(Drawing(form, form.surface), 1));
     EXPECT_GE(first, 40);
     EXPECT_LE(first, 45);
     EXPECT_GE(last, 52);
@@ -60,7 +60,7 @@ TEST(Drawing, SvgHoldsTheTextsAndTheViewBox) {
     SampleForm form;
     form.surface.moveTo(20, 40);
     form.surface.print("Total cost < 5 & more");
-    const QString svg = QString::fromUtf8(svgOf(form, form.surface));
+    const QString svg = QString::fromUtf8(svgOf(Drawing(form, form.surface), "SAMPLE"));
     EXPECT_TRUE(svg.contains("viewBox=\"0 0 300 200\"")) << svg.toStdString();
     EXPECT_TRUE(svg.contains(">Total cost &lt; 5 &amp; more</text>"));
     EXPECT_TRUE(svg.contains("font-family=\"'MS Sans Serif', 'Liberation Sans'"));
@@ -77,7 +77,7 @@ SampleForm& withChart(SampleForm& form) {
 
 TEST(Drawing, AChartShowsTitleLabelsTicksAndLegend) {
     SampleForm form;
-    const QString svg = QString::fromUtf8(svgOf(form, withChart(form).chart));
+    const QString svg = QString::fromUtf8(svgOf(Drawing(form, withChart(form).chart), "SAMPLE"));
     for (const char* text : {">TIME SERIES DATA<", ">Time periods<", ">Data values<", ">Data<", ">Forecast<",
                              ">5<", ">20<", ">200<"})
         EXPECT_TRUE(svg.contains(text)) << text;
@@ -87,14 +87,70 @@ TEST(Drawing, AChartShowsTitleLabelsTicksAndLegend) {
 TEST(Drawing, AChartOfOneSeriesNeedsNoLegend) {
     SampleForm form;
     withChart(form).chart.data.series.pop_back();
-    EXPECT_FALSE(QString::fromUtf8(svgOf(form, form.chart)).contains(">Data<"));
+    EXPECT_FALSE(QString::fromUtf8(svgOf(Drawing(form, form.chart), "SAMPLE")).contains(">Data<"));
 }
 
-TEST(Drawing, AnEmptyChartAndOneOfASingleValueAreDrawn) {
+/// Count of pixels of an image that have exactly this colour.
+int pixelsOf(const QImage& image, const QColor& colour) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == colour ? 1 : 0;
+    return count;
+}
+
+TEST(Drawing, AnEmptyChartHasItsAxesAndNoCurve) {
     SampleForm form;
-    EXPECT_FALSE(imageOf(form, form.chart, 1).isNull());
+    form.chart.data.title = "NOTHING YET";
+    const QString svg = QString::fromUtf8(svgOf(Drawing(form, form.chart), "SAMPLE"));
+    for (const char* text : {">NOTHING YET<", ">0.0<", ">1.0<"}) EXPECT_TRUE(svg.contains(text)) << text;
+    EXPECT_EQ(pixelsOf(imageOf(Drawing(form, form.chart), 1), QColor(255, 0, 0)), 0);
+}
+
+TEST(Drawing, AChartOfASingleValueShowsItsBar) {
+    SampleForm form;
     form.chart.data = {"t", {"x", 3, 3}, {"y", 5, 5}, {{"s", SeriesKind::Bars, 12, {{3, 5}}}}};
-    EXPECT_FALSE(imageOf(form, form.chart, 1).isNull());
+    const QString svg = QString::fromUtf8(svgOf(Drawing(form, form.chart), "SAMPLE"));
+    for (const char* text : {">3.0<", ">5.0<"}) EXPECT_TRUE(svg.contains(text)) << text;
+    form.chart.data.y = {"y", 0, 10};
+    EXPECT_GT(pixelsOf(imageOf(Drawing(form, form.chart), 1), QColor(255, 0, 0)), 500);
+}
+
+TEST(Drawing, ATextThatLeavesThePaperIsCutAndKnownWhole) {
+    SampleForm form;
+    form.surface.moveTo(20, 40);
+    form.surface.print("short");
+    form.surface.moveTo(20, 80);
+    form.surface.print(std::string(400, 'x'));
+    const SurfacePage page(form.surface, unitsOf(form, form.surface));
+    EXPECT_EQ(page.textAt({25, 45})->painted, "short");
+    const PaintedText& cut = *page.textAt({30, 85});
+    EXPECT_EQ(cut.whole.size(), 400);
+    EXPECT_TRUE(cut.painted.endsWith(QChar(0x2026)));
+    EXPECT_LE(cut.place.right(), unitsOf(form, form.surface).width());
+    EXPECT_EQ(page.textAt({290, 45}), nullptr);
+}
+
+TEST(Drawing, ATextAtTheFootOfThePaperIsSeenWhole) {
+    SampleForm form; // a surface of 300 by 200 units
+    form.surface.font = {"Arial", 24, false};
+    form.surface.moveTo(20, 185); // 37 units high
+    form.surface.print("Xg");
+    const auto [first, last] = inkedRows(imageOf(Drawing(form, form.surface), 1));
+    EXPECT_GT(first, 155);
+    EXPECT_GT(last - first, 22) << "four fifths of it at least";
+    EXPECT_LT(last, 199);
+}
+
+TEST(Drawing, AWindowIsDrawnWithItsLabelsWhereTheyStandToEachOther) {
+    SampleForm form;
+    form.lblName.design = {120, 2900, 2000, 270};
+    form.surface.box(0, 0, 20, 20, 12, true);
+    const std::optional<Drawing> drawing = Drawing::ofWindow(form);
+    ASSERT_TRUE(drawing);
+    const QString svg = QString::fromUtf8(svgOf(*drawing, "SAMPLE"));
+    EXPECT_TRUE(svg.contains(">Name of the problem:</text>")) << svg.toStdString();
+    EXPECT_EQ(imageOf(*drawing, 1).pixelColor(10, (3300 - 1400) / 15 + 10), QColor(255, 0, 0))
+        << "under the highest label";
 }
 
 TEST(Drawing, TicksAreOneTwoOrFiveTimesAPowerOfTen) {
@@ -111,7 +167,7 @@ TEST(Drawing, TheFilesEndingIsItsFormat) {
     withChart(form);
     const TemporaryFolder folder;
     for (const char* name : {"chart.svg", "chart.PNG", "chart.pdf"})
-        saveDrawing(form, form.chart, folder.path() / name);
+        saveDrawing(Drawing(form, form.chart), "SAMPLE", folder.path() / name);
     const QImage png(QString::fromStdString((folder.path() / "chart.PNG").string()));
     EXPECT_EQ(png.size(), (unitsOf(form, form.chart) * 2).toSize());
     EXPECT_TRUE(readTextFile(folder.path() / "chart.pdf").starts_with("%PDF-"));

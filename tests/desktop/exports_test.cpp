@@ -4,13 +4,16 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QImage>
+#include <QMenu>
 #include <gtest/gtest.h>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 #include "tests/desktop/next_dialog.h"
+#include "tests/desktop/pdf_page.h"
 #include "tests/desktop/sample_form.h"
+#include "tests/support/error_of.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -67,13 +70,59 @@ TEST_F(ExportsTest, PrintingIsCancelledByEscape) {
 
 TEST_F(ExportsTest, AReportIsPrintedInTheDesignsFonts) {
     form.report.add({"RESULTS", {"Arial", 12 * 1.28, false}});
-    withNextDialog([](QWidget& box) {
-        auto* target = box.findChild<QComboBox*>();
-        target->setCurrentIndex(target->count() - 1);
-        QTest::keyClick(&box, Qt::Key_Return);
-    });
+    std::string proposed;
+    printToPdf(folder.path() / "costs.pdf", &proposed);
     printReport(place(), form, form.report);
-    EXPECT_TRUE(readTextFile(folder.path() / "SAMPLE.pdf").starts_with("%PDF-"));
+    EXPECT_EQ(proposed, textOf(folder.path() / "SAMPLE report.pdf"));
+    const PdfPage page = readPdf(folder.path() / "costs.pdf");
+    EXPECT_NEAR(page.place("RESULTS").height(), 12, 1.5) << "points";
+}
+
+TEST_F(ExportsTest, APlotIsPrintedAsLinesAndTexts) {
+    form.surface.box(0, 0, 100, 100, 12);
+    form.surface.moveTo(150, 50);
+    form.surface.print("Facility");
+    printToPdf(folder.path() / "plot.pdf");
+    printDrawing(place(), form, form.surface);
+    const PdfPage page = readPdf(folder.path() / "plot.pdf");
+    EXPECT_FALSE(page.place("Facility").isNull()) << page.text;
+    EXPECT_EQ(page.images, 0);
+    EXPECT_NE(page.text.find("Page 1 of 1"), std::string::npos);
+}
+
+TEST_F(ExportsTest, TheMenusPrintAndTheButtonsGiveTheSamePage) {
+    form.surface.design = {0, 0, 9520, 6372};
+    form.surface.circle(150, 100, 20, 9, true);
+    form.surface.moveTo(150, 50);
+    form.surface.print("Facility");
+    for (const auto& control : form.controls())
+        if (control.get() != &form.surface) control->seen = [] { return false; };
+    printToPdf(folder.path() / "menu.pdf");
+    printDrawing(place(), form, form.surface);
+    PrintJob job{.title = "SAMPLE", .orientation = Orientation::Landscape};
+    const CapturedPicture picture{
+        .width = 640, .height = 480, .drawing = std::make_shared<const Drawing>(*Drawing::ofWindow(form))};
+    job.operations.emplace_back(PrintedPicture{picture, 20000, 15000});
+    printToPdf(folder.path() / "button.pdf");
+    printWithPreview(place(), job);
+    EXPECT_EQ(imageOfPdf(folder.path() / "menu.pdf"), imageOfPdf(folder.path() / "button.pdf"));
+    EXPECT_EQ(readPdf(folder.path() / "menu.pdf").place("Facility"),
+              readPdf(folder.path() / "button.pdf").place("Facility"));
+}
+
+TEST_F(ExportsTest, APreviewLeavesTheFontsOfMenusAlone) {
+    form.report.add({"RESULTS", {"MS Sans Serif", 9 * 1.28, false}});
+    printToPdf(folder.path() / "x.pdf");
+    printReport(place(), form, form.report);
+    const QFont menuFont = QMenu().font();
+    EXPECT_NEAR(QFontInfo(menuFont).pointSizeF(), menuFont.pointSizeF(), .5);
+}
+
+TEST_F(ExportsTest, AFileThatCanNotBeFinishedIsAnError) {
+    const std::filesystem::path path = folder.path() / "costs.pdf";
+    std::filesystem::create_symlink("/dev/full", path);
+    printToPdf(path);
+    EXPECT_EQ(errorOf([&] { printWithPreview(place(), PrintJob{.title = "COG"}); }), ErrorNumber::DiskFull);
 }
 
 } // namespace

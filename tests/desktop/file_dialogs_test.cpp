@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/fonts.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 #include "tests/desktop/next_dialog.h"
 #include "tests/support/temporary_folder.h"
@@ -40,7 +40,8 @@ FileDialog cogDialog(FileDialog::Kind kind, const TemporaryFolder& folder) {
     return {.kind = kind,
             .title = "Open center-of-gravity data file",
             .folder = textOf(folder.path()) + "/",
-            .filter = "Center of gravity (COG*.dat)|COG*.dat|"};
+            .filter = "Center of gravity (COG*.dat)|COG*.dat|",
+            .name = ""};
 }
 
 TEST(FileDialogs, OpenTakesANameThatIsNotThereYet) {
@@ -71,6 +72,48 @@ TEST(FileDialogs, SaveAsksBeforeItTakesAFileThatIsThere) {
     });
     EXPECT_EQ(chooseFile(nullptr, cogDialog(FileDialog::Kind::Save, folder)), std::nullopt);
     EXPECT_NE(question.find("COG01.dat already exists"), std::string::npos) << question;
+}
+
+TEST(FileDialogs, SaveProposesTheOpenFileAndTakesItUnasked) {
+    const TemporaryFolder folder;
+    replaceFile(folder.path() / "COG01.dat", "x");
+    FileDialog dialog = cogDialog(FileDialog::Kind::Save, folder);
+    dialog.name = "COG01.dat";
+    std::string proposed;
+    withNextDialog([&](QWidget& box) {
+        auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
+        proposed = utf8Text(edit->text());
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    EXPECT_EQ(chooseFile(nullptr, dialog, Overwriting::ProposedUnasked), textOf(folder.path() / "COG01.dat"));
+    EXPECT_EQ(proposed, "COG01.dat");
+}
+
+TEST(FileDialogs, AnotherFileThatIsThereIsAskedAboutAllTheSame) {
+    const TemporaryFolder folder;
+    replaceFile(folder.path() / "COG01.dat", "x");
+    replaceFile(folder.path() / "COG02.dat", "x");
+    FileDialog dialog = cogDialog(FileDialog::Kind::Save, folder);
+    dialog.name = "COG01.dat";
+    withNextDialog([](QWidget& box) {
+        withNextDialog(answerYes);
+        auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_TRUE(QTest::qWaitFor([edit] { return edit->hasFocus(); }));
+        edit->selectAll();
+        QTest::keyClicks(edit, "COG02.dat");
+        QTest::keyClick(edit, Qt::Key_Return);
+    });
+    EXPECT_EQ(chooseFile(nullptr, dialog, Overwriting::ProposedUnasked), textOf(folder.path() / "COG02.dat"));
+}
+
+TEST(FileDialogs, WithoutAFolderTheCurrentOneIsShown) {
+    const TemporaryFolder folder;
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.path());
+    FileDialog dialog = cogDialog(FileDialog::Kind::Open, folder);
+    dialog.folder.clear();
+    EXPECT_EQ(typed(dialog, "COGNEW.dat"), textOf(folder.path() / "COGNEW.dat"));
+    std::filesystem::current_path(before);
 }
 
 } // namespace

@@ -1,13 +1,16 @@
 #include "desktop/form_window.h"
 
+#include <QAbstractScrollArea>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "shell/dialog_form.h"
 #include "tests/desktop/sample_form.h"
 
 namespace vantore::tests {
@@ -31,9 +34,9 @@ TEST_F(FormWindowTest, ControlsStandWhereTheDesignPutsThem) {
 TEST_F(FormWindowTest, TheFormsStateIsReadAgain) {
     form.caption = "SAMPLE - /data/x.dat";
     form.cmdSolve.caption = "&Again";
-    form.cmdSolve.enabled = false;
-    form.txtName.setText("Two towns");
-    form.frame.visible = false;
+    form.cmdSolve.usable = [] { return false; };
+    form.txtName.show("Two towns");
+    form.frame.seen = [] { return false; };
     refresh();
     EXPECT_EQ(open.window.windowTitle(), "SAMPLE - /data/x.dat");
     EXPECT_EQ(open.widget<QPushButton>(form.cmdSolve).text(), "&Again");
@@ -64,13 +67,48 @@ TEST_F(FormWindowTest, OptionsExcludeEachOtherAsTheFormSays) {
     EXPECT_TRUE(open.widget<QRadioButton>(form.option2).isChecked());
 }
 
+TEST_F(FormWindowTest, TheOptionsAreOneTabStopWhoseArrowsSelect) {
+    auto& first = open.widget<QRadioButton>(form.option1);
+    auto& second = open.widget<QRadioButton>(form.option2);
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Right);
+    EXPECT_TRUE(form.option2.selected);
+    EXPECT_TRUE(second.hasFocus());
+    EXPECT_FALSE(form.option1.selected);
+    QTest::keyClick(&second, Qt::Key_Tab);
+    EXPECT_TRUE(open.widget(form.check).hasFocus());
+    QTest::keyClick(&open.widget(form.check), Qt::Key_Backtab);
+    EXPECT_TRUE(second.hasFocus());
+}
+
+TEST_F(FormWindowTest, AnOptionThatTheFormClearsIsCleared) {
+    form.option1.selected = false;
+    refresh();
+    EXPECT_FALSE(open.widget<QRadioButton>(form.option1).isChecked());
+}
+
 TEST_F(FormWindowTest, ATabShowsItsPage) {
-    QTest::mouseClick(&open.widget(form.tabs), Qt::LeftButton, {}, QPoint(70, 8));
+    auto& bar = *open.widget(form.tabs).findChild<QTabBar*>();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
     EXPECT_EQ(form.tabs.selected, 1);
     EXPECT_FALSE(open.widget(form.onFirst).isVisible());
     EXPECT_TRUE(open.widget(form.onSecond).isVisible());
-    QTest::keyClick(&open.widget(form.tabs), Qt::Key_Left);
+    QTest::keyClick(&bar, Qt::Key_Left);
     EXPECT_EQ(form.tabs.selected, 0);
+    EXPECT_TRUE(open.widget(form.onFirst).isVisible());
+}
+
+TEST_F(FormWindowTest, ATabsMnemonicSelectsIt) {
+    QTest::keyClick(&open.window, Qt::Key_C, Qt::AltModifier);
+    EXPECT_EQ(form.tabs.selected, 1);
+}
+
+TEST_F(FormWindowTest, TabsThatDoNotFitAreCutAndShownWholeAsTips) {
+    form.tabs.pages = {std::string(80, 'x'), "Costs"};
+    refresh();
+    const auto& bar = *open.widget(form.tabs).findChild<QTabBar*>();
+    EXPECT_LE(bar.tabRect(1).right(), open.widget(form.tabs).width());
+    EXPECT_EQ(bar.tabToolTip(0), QString(80, 'x'));
 }
 
 TEST_F(FormWindowTest, TypedTextIsTheFormsAndCanBeUndone) {
@@ -83,6 +121,40 @@ TEST_F(FormWindowTest, TypedTextIsTheFormsAndCanBeUndone) {
     EXPECT_EQ(box.text(), "");
     QTest::keyClick(&box, Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(box.text(), "North");
+}
+
+TEST_F(FormWindowTest, UndoAndRedoWorkWhateverHasTheFocus) {
+    QTest::keyClicks(&open.widget(form.txtName), "North");
+    QWidget& button = open.widget(form.cmdSolve);
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.txtName.text(), "");
+    EXPECT_TRUE(open.widget(form.txtName).hasFocus()) << "where the change is seen";
+    QTest::keyClick(&open.widget(form.report), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(form.txtName.text(), "North");
+}
+
+TEST_F(FormWindowTest, ATextBoxTakesATextOfAnyLength) {
+    auto& box = open.widget<QLineEdit>(form.txtName);
+    box.setFocus();
+    QGuiApplication::clipboard()->setText(QString(100000, 'x'));
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.txtName.text().size(), 100000U);
+    form.txtName.show(std::string(90000, 'y'));
+    refresh();
+    EXPECT_EQ(box.text().size(), 90000);
+}
+
+TEST_F(FormWindowTest, ATextLongerThanItsBoxComesAsATip) {
+    form.txtName.show("short");
+    form.txtName.tip = "Any name";
+    refresh();
+    EXPECT_EQ(open.widget(form.txtName).toolTip(), "Any name");
+    form.txtName.show("The long name of a problem that no box of this width shows whole");
+    refresh();
+    EXPECT_EQ(open.widget(form.txtName).toolTip(),
+              "<qt>The long name of a problem that no box of this width shows whole<br>Any name</qt>");
+    EXPECT_NEAR(open.widget(form.txtName).font().pointSizeF(), 8, .01) << "moved, not smaller";
 }
 
 TEST_F(FormWindowTest, ABoxIsLeftBeforeTheButtonIsPressed) {
@@ -102,7 +174,7 @@ TEST_F(FormWindowTest, ABoxThatTheTabKeyLeavesIsLeftWithoutAFurtherStep) {
 
 TEST_F(FormWindowTest, TheTabKeyFollowsTheFormsOrder) {
     open.widget(form.txtName).setFocus();
-    std::vector<Control*> order = {&form.option1, &form.option2, &form.check, &form.grid, &form.tabs};
+    std::vector<Control*> order = {&form.option1, &form.check, &form.grid};
     QWidget* at = &open.widget(form.txtName);
     for (Control* next : order) {
         QTest::keyClick(at, Qt::Key_Tab);
@@ -139,18 +211,41 @@ TEST_F(FormWindowTest, WhileASolverRunsControlCInterruptsFromTheGridToo) {
     EXPECT_EQ(form.log, "interrupted ");
 }
 
-TEST_F(FormWindowTest, TheRunningNoteStandsUnderAllControls) {
+TEST_F(FormWindowTest, TheRunningNoteStandsAtTheFootAndNothingShrinks) {
     const auto& note = *open.window.findChild<QLabel*>("runningNote");
     EXPECT_FALSE(note.isVisible());
     form.runningNote = "MIP.EXE is running, 0:01.";
     refresh();
     EXPECT_TRUE(note.isVisible());
     EXPECT_EQ(note.text(), "MIP.EXE is running, 0:01.");
-    EXPECT_GE(note.y(), open.window.canvas().geometry().bottom());
-    EXPECT_LT(open.widget(form.cmdSolve).geometry().bottom(), note.y());
+    EXPECT_EQ(note.geometry().bottom(), open.window.rect().bottom());
+    EXPECT_DOUBLE_EQ(open.window.zoom(), 1);
     form.runningNote.clear();
     refresh();
     EXPECT_FALSE(note.isVisible());
+}
+
+TEST_F(FormWindowTest, WhileASolverRunsNoBoxTakesTheCaret) {
+    open.widget(form.txtName).setFocus();
+    form.runningNote = "MIP.EXE is running, 0:01.";
+    refresh();
+    EXPECT_FALSE(open.widget(form.txtName).hasFocus());
+    QTest::keyClicks(&open.widget(form.txtName), "x");
+    EXPECT_EQ(form.txtName.text(), "");
+    form.runningNote.clear();
+    refresh();
+    EXPECT_TRUE(open.widget(form.txtName).isEnabled());
+}
+
+TEST_F(FormWindowTest, AReportIsReadWithTheKeysFromAnyButton) {
+    for (int i = 0; i < 200; ++i) form.report.add({"line", {"Courier New", 9, false}});
+    refresh();
+    QWidget& button = open.widget(form.cmdSolve);
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_PageDown);
+    const QScrollBar& bar = *open.widget<QAbstractScrollArea>(form.report).verticalScrollBar();
+    EXPECT_GT(bar.value(), 2);
+    EXPECT_TRUE(button.hasFocus());
 }
 
 TEST_F(FormWindowTest, ASmallerWindowDrawsAllSmaller) {
@@ -162,15 +257,35 @@ TEST_F(FormWindowTest, ASmallerWindowDrawsAllSmaller) {
     }
 }
 
-TEST_F(FormWindowTest, NoCaptionIsWiderThanItsButton) {
+TEST_F(FormWindowTest, ACaptionTooLongForItsButtonIsCutAndShownWholeAsATip) {
     form.cmdSolve.caption = "A caption that is much too long for this button";
     refresh();
     const auto& button = open.widget<QPushButton>(form.cmdSolve);
     EXPECT_LE(QFontMetrics(button.font()).horizontalAdvance(button.text()), button.width());
+    EXPECT_TRUE(button.text().endsWith(QChar(0x2026)));
+    EXPECT_GE(button.font().pointSizeF(), .8 * 8 - .01);
+    EXPECT_EQ(button.toolTip(),
+              "<qt>A caption that is much too long for this button<br>Finds the best plan</qt>");
+    form.cmdSolve.caption = "&Solve";
+    refresh();
+    EXPECT_EQ(button.text(), "&Solve");
+    EXPECT_EQ(button.toolTip(), "Finds the best plan");
+}
+
+TEST_F(FormWindowTest, ALabelStandsOnTheLineOfItsBox) {
+    const auto& label = open.widget<QLabel>(form.lblName);
+    const QWidget& box = open.widget(form.txtName);
+    EXPECT_NEAR(label.geometry().center().y(), box.geometry().center().y(), 1);
+    EXPECT_TRUE(label.alignment().testFlag(Qt::AlignVCenter));
+    form.lblName.design.top = 3000; // above another row
+    refresh();
+    EXPECT_EQ(label.y(), 200);
+    EXPECT_TRUE(label.alignment().testFlag(Qt::AlignTop));
 }
 
 TEST_F(FormWindowTest, ALabelKeepsItsFontWhereItsTextFitsAndShowsALongPathWhole) {
     auto& label = open.widget<QLabel>(form.lblName);
+    form.lblName.buddy = nullptr;
     form.lblName.design = {120, 120, 2000, 600};
     form.lblName.caption = "rows and/or columns";
     refresh();
@@ -205,44 +320,6 @@ TEST_F(FormWindowTest, TheBackColourIsTheWholeWindows) {
     form.backColour = colour::brightWhite;
     refresh();
     EXPECT_EQ(open.window.canvas().grab().toImage().pixelColor(300, 440), QColor(Qt::white));
-}
-
-TEST(DialogWindow, EnterInTheTextBoxPressesOk) {
-    InptBx dialog({}, "The add value is?", "COG", 8, "Enter a value");
-    dialog.width = 4300;
-    dialog.height = 2175;
-    dialog.txtInput.design = {150, 1360, 2500, 285};
-    OpenWindow<InptBx> open(dialog);
-    open.window.behaveAsDialog();
-    open.window.show();
-    auto& box = open.widget<QLineEdit>(dialog.txtInput);
-    EXPECT_EQ(box.selectedText(), "Enter a value") << "typing takes the default's place";
-    QTest::keyClicks(&box, "12");
-    QTest::keyClick(&box, Qt::Key_Return);
-    EXPECT_TRUE(dialog.closed);
-    EXPECT_EQ(dialog.reply, "12");
-}
-
-TEST(DialogWindow, ALetterAloneAnswersAQuestion) {
-    YNBx dialog({}, "Another computational cycle?", "Question", 8);
-    OpenWindow<YNBx> open(dialog);
-    open.window.behaveAsDialog();
-    open.window.show();
-    QTest::keyClick(&open.widget(dialog.cmdNo), Qt::Key_X);
-    EXPECT_FALSE(dialog.closed);
-    QTest::keyClick(&open.widget(dialog.cmdNo), Qt::Key_Y);
-    EXPECT_TRUE(dialog.closed);
-    EXPECT_EQ(dialog.reply, replyYes);
-}
-
-TEST(DialogWindow, EscapeAndTheTitleBarAreNo) {
-    YNBx dialog({}, "Another computational cycle?", "Question", 8);
-    OpenWindow<YNBx> open(dialog);
-    open.window.behaveAsDialog();
-    open.window.show();
-    QTest::keyClick(&open.widget(dialog.cmdYes), Qt::Key_Escape);
-    EXPECT_TRUE(dialog.closed);
-    EXPECT_EQ(dialog.reply, replyNo);
 }
 
 } // namespace

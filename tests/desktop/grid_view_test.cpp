@@ -1,7 +1,11 @@
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "desktop/grid_view.h"
@@ -46,10 +50,18 @@ class GridViewTest : public testing::Test {
         return std::to_string(form.grid.row()) + "," + std::to_string(form.grid.col());
     }
 
-    bool inView(int row, int col) const {
-        const QRect room(0, view.cellRect(0, 0).bottom(), view.viewport()->width(),
-                         view.viewport()->height() - view.cellRect(0, 0).height());
-        return room.contains(view.cellRect(row, col).center());
+    bool inView(int row, int col) const { return view.viewport()->rect().contains(middle(row, col)); }
+
+    /// The middle of a column's caption and of a row's number, each in its heading.
+    void clickColumn(int col) {
+        QHeaderView& heading = *view.horizontalHeader();
+        const QPoint place(heading.sectionViewportPosition(col - 1) + heading.sectionSize(col - 1) / 2, 8);
+        QTest::mouseClick(heading.viewport(), Qt::LeftButton, {}, place);
+    }
+    void clickRow(int row) {
+        QHeaderView& heading = *view.verticalHeader();
+        const QPoint place(8, heading.sectionViewportPosition(row - 1) + heading.sectionSize(row - 1) / 2);
+        QTest::mouseClick(heading.viewport(), Qt::LeftButton, {}, place);
     }
 
     SampleForm form;
@@ -114,8 +126,8 @@ TEST_F(GridViewTest, TheCurrentCellIsKeptInViewAndTheHeadingsStay) {
     for (int i = 0; i < 3; ++i) key(Qt::Key_Right);
     EXPECT_TRUE(inView(31, 4));
     EXPECT_FALSE(inView(1, 1));
-    EXPECT_EQ(view.cellRect(0, 4).top(), 0);
-    EXPECT_EQ(view.cellRect(31, 0).left(), 0);
+    EXPECT_EQ(view.horizontalHeader()->height(), 27);
+    EXPECT_EQ(view.verticalHeader()->width(), 64);
 }
 
 TEST_F(GridViewTest, ShiftExtendsTheHighlightFromTheCurrentCell) {
@@ -141,25 +153,101 @@ TEST_F(GridViewTest, AClickIsToldOnceAndADragIsNone) {
 }
 
 TEST_F(GridViewTest, AHeadingHighlightsItsColumnAndARowNumberItsRow) {
-    click(0, 2);
+    clickColumn(2);
     EXPECT_EQ(selection(), "1,2 - 40,2");
+    EXPECT_EQ(current(), "1,2");
     EXPECT_TRUE(inView(1, 2));
-    click(5, 0);
+    clickRow(5);
     EXPECT_EQ(selection(), "5,1 - 5,4");
+    EXPECT_EQ(current(), "5,1");
     EXPECT_EQ(form.log, "");
 }
 
+TEST_F(GridViewTest, TheCornerAndControlAHighlightAll) {
+    view.findChild<QAbstractButton*>()->click();
+    EXPECT_EQ(selection(), "1,1 - 40,4");
+    click(2, 2);
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(selection(), "1,1 - 40,4");
+    EXPECT_EQ(current(), "1,1");
+    EXPECT_TRUE(inView(1, 1));
+}
+
+TEST_F(GridViewTest, TheFormsHighlightIsExtendedFromItsCurrentCell) {
+    click(9, 4);
+    form.grid.select({.startRow = 3, .endRow = 5, .startCol = 2, .endCol = 2});
+    open.window.refresh();
+    EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 3);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "3,2 - 6,2");
+    EXPECT_EQ(current(), "3,2");
+    key(Qt::Key_Down);
+    EXPECT_EQ(current(), "7,2") << "from where the highlight ended";
+}
+
 TEST_F(GridViewTest, ADraggedEdgeOfAHeadingWidensItsColumn) {
-    const int before = view.cellRect(0, 1).width();
-    const QPoint edge(view.cellRect(0, 1).right(), 5);
-    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, edge);
-    QMouseEvent move(QEvent::MouseMove, edge + QPoint(30, 0),
-                     view.viewport()->mapToGlobal(edge + QPoint(30, 0)), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &move);
-    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
-    EXPECT_NEAR(view.cellRect(0, 1).width(), before + 30, 1);
+    const int before = view.cellRect(1, 1).width();
+    QWidget& heading = *view.horizontalHeader()->viewport();
+    const QPoint edge(before - 1, 5);
+    QTest::mouseMove(&heading, edge);
+    QTest::mousePress(&heading, Qt::LeftButton, {}, edge);
+    QMouseEvent move(QEvent::MouseMove, edge + QPoint(30, 0), heading.mapToGlobal(edge + QPoint(30, 0)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&heading, &move);
+    QTest::mouseRelease(&heading, Qt::LeftButton, {}, edge + QPoint(30, 0));
+    EXPECT_NEAR(view.cellRect(1, 1).width(), before + 30, 1);
+    EXPECT_NEAR(form.grid.colWidth(1), (before + 30) * 15, 15);
     EXPECT_EQ(selection(), "1,1 - 1,1");
+}
+
+TEST_F(GridViewTest, NumbersStandAtTheRight) {
+    form.grid.setCell(1, 1, "A");
+    form.grid.setCell(1, 2, "2");
+    const auto inkAt = [&](int col, bool right) {
+        const QRect cell = view.cellRect(1, col).adjusted(3, 3, -3, -3);
+        const QRect half(right ? cell.center().x() : cell.left(), cell.top(), cell.width() / 2,
+                         cell.height());
+        const QImage image = view.viewport()->grab(half).toImage();
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) dark += qGray(image.pixel(x, y)) < 128 ? 1 : 0;
+        return dark > 0;
+    };
+    click(5, 1);
+    EXPECT_TRUE(inkAt(1, false));
+    EXPECT_FALSE(inkAt(1, true));
+    EXPECT_FALSE(inkAt(2, false));
+    EXPECT_TRUE(inkAt(2, true));
+}
+
+TEST_F(GridViewTest, ATextTooLongForItsCellComesAsATip) {
+    form.grid.setCell(2, 1, "A name that is much longer than its column");
+    form.grid.setCell(3, 0, "A row's name that is longer, too");
+    open.window.refresh();
+    const auto tipAt = [&](QWidget* place, QPoint point) {
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        QHelpEvent help(QEvent::ToolTip, point, place->mapToGlobal(point));
+        QApplication::sendEvent(place, &help);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tipAt(view.viewport(), middle(2, 1)), "<qt>A name that is much longer than its column</qt>");
+    EXPECT_EQ(tipAt(view.viewport(), middle(1, 1)), "");
+    QWidget* numbers = view.verticalHeader()->viewport();
+    EXPECT_EQ(tipAt(numbers, {8, middle(3, 1).y()}), "<qt>A row's name that is longer, too</qt>");
+    EXPECT_EQ(tipAt(numbers, {8, middle(2, 1).y()}), "");
+}
+
+TEST_F(GridViewTest, RowsComeAndGoWithTheGrid) {
+    form.grid.setRows(101);
+    open.window.refresh();
+    EXPECT_EQ(view.model()->rowCount(), 100);
+    EXPECT_EQ(view.verticalHeader()->sectionSize(99), view.verticalHeader()->sectionSize(0));
+    form.grid.setRows(3);
+    form.grid.setCols(9);
+    open.window.refresh();
+    EXPECT_EQ(view.model()->rowCount(), 2);
+    EXPECT_EQ(view.model()->columnCount(), 8);
 }
 
 TEST_F(GridViewTest, ADoubleClickIsTheGridsWhereItHasAMeaning) {
@@ -229,7 +317,7 @@ TEST_F(GridViewTest, TheWheelScrollsTheRows) {
     QWheelEvent wheel(middle(3, 2), view.viewport()->mapToGlobal(middle(3, 2)), {}, {0, -240}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(view.viewport(), &wheel);
-    EXPECT_EQ(view.verticalScrollBar()->value(), 6 * view.cellRect(1, 1).height());
+    EXPECT_EQ(view.verticalScrollBar()->value(), 6) << "rows";
 }
 
 TEST_F(GridViewTest, WithoutRowsNoKeyAndNoClickDoesHarm) {
@@ -238,7 +326,7 @@ TEST_F(GridViewTest, WithoutRowsNoKeyAndNoClickDoesHarm) {
     for (const Qt::Key each : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Return, Qt::Key_Delete})
         key(each);
     type("5");
-    click(0, 2);
+    clickColumn(2);
     EXPECT_EQ(form.grid.rows(), 1);
     EXPECT_EQ(form.log, "");
 }

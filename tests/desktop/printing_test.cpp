@@ -1,16 +1,13 @@
 #include "desktop/printing.h"
 
-#include <QComboBox>
 #include <QImage>
-#include <QLineEdit>
 #include <QProcess>
 #include <gtest/gtest.h>
 
-#include "desktop/drawing_export.h"
-#include "desktop/fonts.h"
-#include "desktop/print_window.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
-#include "tests/support/error_of.h"
+#include "tests/desktop/pdf_page.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -40,13 +37,13 @@ int pagesOfPdf(const std::filesystem::path& file) {
 
 TEST(Printing, LinesFlowDownThePages) {
     const PrintJob job = jobOf(120);
-    const PagedDocument document = layOutPages(job, room);
-    ASSERT_EQ(document.pages.size(), 3U);
-    EXPECT_EQ(document.pages[0].lines[0].top, 0);
-    EXPECT_EQ(document.pages[1].lines[0].top, 0);
+    const std::vector<Page> pages = layOutPages(job, room);
+    ASSERT_EQ(pages.size(), 3U);
+    EXPECT_EQ(pages[0].lines[0].top, 0);
+    EXPECT_EQ(pages[1].lines[0].top, 0);
     double before = -1;
     std::size_t count = 0;
-    for (const Page& page : document.pages) {
+    for (const Page& page : pages) {
         before = -1;
         for (const PageLine& line : page.lines) {
             EXPECT_GT(line.top, before);
@@ -63,17 +60,56 @@ TEST(Printing, ALineIsAsHighAsItsFont) {
     job.print("small", {"Courier New", 10, false});
     job.print("large", {"Arial", 20, false});
     job.print("end", courier);
-    const PagedDocument document = layOutPages(job, room);
-    const auto& lines = document.pages.at(0).lines;
+    const std::vector<Page> pages = layOutPages(job, room);
+    const auto& lines = pages.at(0).lines;
     EXPECT_NEAR(lines[1].top, 11.33, .3); // Liberation Mono: 1.133 of the size
     EXPECT_NEAR(lines[2].top - lines[1].top, 23, .6);
 }
 
+/// The size of a page line's font on paper, in points.
+double pointsOf(const PageLine& line) {
+    return line.font.size * 96 / 72;
+}
+
 TEST(Printing, TheFontsAreSmallerWhereTheWidestLineWouldBeCut) {
-    const PrintJob narrow = jobOf(3);
-    EXPECT_DOUBLE_EQ(layOutPages(narrow, room).fontShare, 1);
-    const PrintJob wide = jobOf(3, std::string(98, 'x')); // 100 characters of 7.2 points
-    EXPECT_NEAR(layOutPages(wide, room).fontShare, 500 / 720.0, .01);
+    EXPECT_NEAR(pointsOf(layOutPages(jobOf(3), room)[0].lines[0]), 12, .01);
+    const PrintJob wide = jobOf(3, std::string(78, 'x')); // 80 characters of 7.2 points
+    EXPECT_NEAR(pointsOf(layOutPages(wide, room)[0].lines[0]), 12 * 500 / 576.0, .1);
+}
+
+TEST(Printing, ALineThatIsStillTooLongGoesOnUnderneath) {
+    std::string words;
+    for (int i = 100; i < 150; ++i) words += std::to_string(i) + " ";
+    PrintJob job{.title = "COG"};
+    job.print(words, courier); // 200 characters; 86 of them fit at four fifths
+    job.print("end", courier);
+    const auto lines = layOutPages(job, room)[0].lines;
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_NEAR(pointsOf(lines[0]), 9.6, .01);
+    for (const PageLine& line : lines) EXPECT_LE(line.text.size(), 86);
+    EXPECT_TRUE(lines[0].text.endsWith(' ')) << "cut between two words";
+    EXPECT_EQ(utf8Text(lines[0].text + lines[1].text + lines[2].text), words);
+    EXPECT_GT(lines[3].top, lines[2].top);
+}
+
+TEST(Printing, LinesTooWideForUprightPaperLieAcross) {
+    EXPECT_EQ(orientationOf(jobOf(2)), Orientation::Portrait);
+    EXPECT_EQ(orientationOf(jobOf(2, std::string(85, 'x'))), Orientation::Portrait) << "smaller is enough";
+    EXPECT_EQ(orientationOf(jobOf(2, std::string(110, 'x'))), Orientation::Landscape);
+}
+
+TEST(Printing, EachPageHasItsNumberInTheLowerMargin) {
+    const TemporaryFolder folder;
+    const QByteArray pdf = pdfOf(jobOf(120));
+    replaceFile(folder.path() / "x.pdf",
+                std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
+    const std::string text = textOfPdf(folder.path() / "x.pdf");
+    EXPECT_NE(text.find("Page 1 of 3"), std::string::npos);
+    EXPECT_NE(text.find("Page 3 of 3"), std::string::npos);
+    const QRectF number = readPdf(folder.path() / "x.pdf").place("Page");
+    const QRectF paper = pageLayout(Orientation::Portrait).fullRect(QPageLayout::Point);
+    EXPECT_GT(number.top(), paper.height() - 12.7 / 25.4 * 72);
+    EXPECT_LT(number.bottom(), paper.height() - 12);
 }
 
 TEST(Printing, APdfFileHoldsTheTextOnItsPages) {
@@ -110,11 +146,7 @@ TEST(Printing, APictureStandsAtThePagesOriginInItsSize) {
     const QByteArray pdf = pdfOf(job);
     const std::filesystem::path file = folder.path() / "x.pdf";
     replaceFile(file, std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
-    QProcess painter;
-    painter.start("pdftoppm", {"-r", "25.4", "-png", "-singlefile", qtText(textOf(file)),
-                               qtText(textOf(folder.path() / "x"))}); // a pixel a millimetre
-    painter.waitForFinished();
-    const QImage page(qtText(textOf(folder.path() / "x.png")));
+    const QImage page = imageOfPdf(file);
     ASSERT_GT(page.width(), page.height());
     EXPECT_EQ(page.pixelColor(15, 15), QColor(Qt::red));
     EXPECT_EQ(page.pixelColor(110, 60), QColor(Qt::red));
@@ -130,27 +162,6 @@ TEST(Printing, ThePrintableAreaLiesBetweenTheMargins) {
     EXPECT_NEAR(upright.height, across.width, 20);
     EXPECT_GT(upright.height, upright.width);
     EXPECT_LT(upright.width, 19100); // A4 or Letter less twice 12.7 mm
-}
-
-TEST(PrintWindow, PrintsToTheFileThatTheUserNames) {
-    const TemporaryFolder folder;
-    const PrintJob job = jobOf(2, "Total cost");
-    PrintWindow window(nullptr, job, qtText(textOf(folder.path())));
-    auto* file = window.findChild<QLineEdit*>();
-    EXPECT_EQ(utf8Text(file->text()), textOf(folder.path() / "COG.pdf"));
-    auto* target = window.findChild<QComboBox*>();
-    target->setCurrentIndex(target->findText("PDF file"));
-    file->setText(qtText(textOf(folder.path() / "costs.pdf")));
-    window.print();
-    EXPECT_NE(textOfPdf(folder.path() / "costs.pdf").find("Total cost 2"), std::string::npos);
-}
-
-TEST(PrintWindow, AFileThatCanNotBeWrittenIsARuntimeError) {
-    const PrintJob job = jobOf(1);
-    PrintWindow window(nullptr, job, "/no/such/folder");
-    auto* target = window.findChild<QComboBox*>();
-    target->setCurrentIndex(target->findText("PDF file"));
-    EXPECT_EQ(errorOf([&] { window.print(); }), ErrorNumber::PathNotFound);
 }
 
 } // namespace

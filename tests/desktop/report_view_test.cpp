@@ -1,6 +1,7 @@
 #include "desktop/report_view.h"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -32,11 +33,12 @@ TEST_F(ReportViewTest, EachLineHasItsOwnFontAndColour) {
     ASSERT_EQ(box.document()->blockCount(), 3);
     const QTextBlock first = box.document()->firstBlock();
     const QTextBlock last = box.document()->lastBlock();
+    const QFont lastFont = last.begin().fragment().charFormat().font();
     EXPECT_EQ(first.text(), "RESULTS");
     EXPECT_EQ(first.begin().fragment().charFormat().foreground().color(), QColor(0, 0, 255));
-    EXPECT_EQ(first.begin().fragment().charFormat().fontFamilies().toStringList().first(), "Arial");
+    EXPECT_EQ(first.begin().fragment().charFormat().font().family(), "Arial");
     EXPECT_EQ(last.text(), "Total      1,234.50");
-    EXPECT_EQ(last.begin().fragment().charFormat().fontFamilies().toStringList().first(), "Courier New");
+    EXPECT_EQ(lastFont.resolve(box.document()->defaultFont()).family(), "Courier New");
 }
 
 TEST_F(ReportViewTest, ANewReportTakesTheOldOnesPlace) {
@@ -70,6 +72,28 @@ TEST_F(ReportViewTest, MarkedTextIsCopiedElseControlCIsTheWindows) {
     QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "RESULTS\nTotal");
     EXPECT_EQ(form.log, "interrupted ");
+}
+
+TEST_F(ReportViewTest, LinesThatAreAddedFollowTheOthers) {
+    add("RESULTS", title);
+    add("one", body);
+    add("two", body);
+    EXPECT_EQ(box.toPlainText(), "RESULTS\none\ntwo");
+}
+
+TEST_F(ReportViewTest, AHundredThousandLinesAreShownInSeconds) {
+    QElapsedTimer timer;
+    timer.start();
+    form.report.add({"RESULTS", title});
+    for (int i = 0; i < 100000; ++i) form.report.add({std::string(80, 'x'), body});
+    form.report.add({std::string(10000, 'y'), body});
+    open.window.refresh();
+    QApplication::processEvents();
+    open.window.grab();
+    EXPECT_LT(timer.elapsed(), 8000);
+    timer.start();
+    open.window.refresh();
+    EXPECT_LT(timer.elapsed(), 200) << "nothing has changed";
 }
 
 TEST_F(ReportViewTest, NothingCanBeTyped) {

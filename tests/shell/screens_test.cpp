@@ -33,23 +33,25 @@ class Screens : public testing::Test {
 constexpr const char* setTo = "MessageBx \"Critical\": \"Your VANTORE display resolution is now set at ";
 
 TEST_F(Screens, LeaveTheLauncherAloneOnceTheSuiteIsSetUp) {
-    EXPECT_EQ(play("launcher\nshow txtDir"),
-              "txtDir: visible enabled \"Input/output folder: <io>\"\n");
+    EXPECT_EQ(play("launcher\nshow txtDir"), "txtDir: visible enabled \"Input/output folder: <io>\"\n");
 }
 
 TEST_F(Screens, SetUpTakesTheDisplaysResolution) {
     writeDriver("/srv/data/", "1024          768", 0);
     writeDriver(textOf(session.ioFolder()) + "/", "1024          768", 0);
     const std::string told = play("launcher\npress Continue");
-    EXPECT_TRUE(told.starts_with(std::string(setTo) + "1024x768 and your Windows screen resolution is set at 800x600."))
+    EXPECT_TRUE(told.starts_with(std::string(setTo) +
+                                 "1024x768 and your Windows screen resolution is set at 800x600."))
         << told;
-    EXPECT_EQ(driver(), (std::vector<std::string>{textOf(session.ioFolder()) + "/", " 800           600 ", " 0 "}));
+    EXPECT_EQ(driver(),
+              (std::vector<std::string>{textOf(session.ioFolder()) + "/", " 800           600 ", " 0 "}));
     EXPECT_TRUE(session.fileExists("TMP"));
 }
 
 TEST_F(Screens, SetUpAsksWhetherToChangeAResolutionThatIsRight) {
     EXPECT_EQ(play("launcher\npress cmdScreen\nanswer No\npress Screen\npress CheckBox\npress Continue"),
-              "YesNoBx \"VANTORE\": \"Your current screen resolution is set at 800x600.  Do you want to change it?\" "
+              "YesNoBx \"VANTORE\": \"Your current screen resolution is set at 800x600.  Do you want to "
+              "change it?\" "
               "-> No\n");
     EXPECT_EQ(driver().at(2), " 1 ");
     EXPECT_TRUE(session.closed());
@@ -66,9 +68,11 @@ TEST_F(Screens, SetUpWarnsOfAWideScreen) {
     std::ofstream(wide.installFolder() / "VANTORE.DRV", std::ios::binary)
         << textOf(wide.ioFolder()) << "/\r\n 1024          768 \r\n 0 \r\n";
     const std::string told = wide.play("answer No\nlauncher");
-    EXPECT_NE(told.find("YesNoBx \"Question\": \"The current screen resolution of 1600x900 with and aspect ratio of "
-                        "1.77777777777778 will not likely produce a pleasing display."),
-              std::string::npos)
+    EXPECT_NE(
+        told.find(
+            "YesNoBx \"Question\": \"The current screen resolution of 1600x900 with and aspect ratio of "
+            "1.77777777777778 will not likely produce a pleasing display."),
+        std::string::npos)
         << told;
 }
 
@@ -90,7 +94,8 @@ TEST_F(Screens, SetUpNamesTheFolderInItsNotes) {
 TEST_F(Screens, FolderIsTakenAndNamedByTheLauncher) {
     const auto folder = session.ioFolder() / "data";
     std::filesystem::create_directory(folder);
-    EXPECT_EQ(play("launcher\npress cmdDir\ntype txtDir " + folder.string() + "\nanswer Yes\npress Apply\nshow txtDir"),
+    EXPECT_EQ(play("launcher\npress cmdDir\ntype txtDir " + folder.string() +
+                   "\nanswer Yes\npress Apply\nshow txtDir"),
               "YesNoBx \"Question\": \"The directory for output will be <io>data/\" -> Yes\n"
               "txtDir: visible enabled \"Input/output folder: <io>data/\"\n");
     EXPECT_EQ(driver().front(), folder.string() + "/");
@@ -119,8 +124,9 @@ TEST_F(Screens, FolderThatCanNotBeMadeIsTold) {
     const auto before = driver();
     const std::string told =
         play("launcher\npress cmdDir\ntype txtDir no/such/folder\nanswer Yes\nanswer Yes\npress Apply");
-    EXPECT_TRUE(told.ends_with("MessageBx \"Warning\": \"The directory could not be created.  Check form of the file "
-                               "name used.\"\n"))
+    EXPECT_TRUE(
+        told.ends_with("MessageBx \"Warning\": \"The directory could not be created.  Check form of the file "
+                       "name used.\"\n"))
         << told;
     EXPECT_EQ(driver(), before);
     EXPECT_EQ(play("show Apply"), "Apply: visible enabled \"&Apply\"\n");

@@ -101,9 +101,9 @@ TEST_F(SizeBoxTest, ForgetsCutRowsWhenTheTextIsReplacedTheBoxLeftOrAnotherContro
 TEST_F(SizeBoxTest, LeavesTheGridAloneWhereThereIsNoSizeYet) {
     TextBox patient("txtPatient");
     SizeBox lone(patient, {&grid},
-                 {.most = 20, .present = [this] { return grid.rowCount(); }, .shape = [this](int count) {
-                      setDataRows(grid, count);
-                  }});
+                 {.most = 20,
+                  .present = [this] { return grid.rowCount(); },
+                  .shape = [this](int count) { setDataRows(grid, count); }});
     for (const char* text : {"", "-", " ", "many"}) {
         patient.setText(text);
         EXPECT_EQ(cells(), "abcde") << text;

@@ -19,9 +19,8 @@ int below(Random& random, int count) {
     return static_cast<int>(random() % static_cast<unsigned>(count));
 }
 
-const std::vector<std::string> texts = {"",  "7",  "12",   "3.5", "-2", "1E400", "North", "Y",
-                                        "0", "99", "<",    "=",   "D",  "I",     "U",     "a,b\"c",
-                                        "5", "1",  "1000", "2"};
+const std::vector<std::string> texts = {"",  "7", "12", "3.5", "-2", "1E400",  "North", "Y", "0",    "99",
+                                        "<", "=", "D",  "I",   "U",  "a,b\"c", "5",     "1", "1000", "2"};
 
 const std::string& anyText(Random& random) {
     return texts[static_cast<std::size_t>(below(random, static_cast<int>(texts.size())))];
@@ -33,7 +32,8 @@ class AnsweringUser : public ScriptPlatform {
     AnsweringUser(std::ostream& out, Random& random) : ScriptPlatform(out, 800, 600), random_(random) {}
 
     void showModal(DialogForm& dialog) override {
-        if (dialog.kind() == DialogForm::Kind::Question) queueAnswer(answer(below(random_, 2) ? "Yes" : "No"));
+        if (dialog.kind() == DialogForm::Kind::Question)
+            queueAnswer(answer(below(random_, 2) ? "Yes" : "No"));
         if (dialog.kind() == DialogForm::Kind::Input)
             queueAnswer(answer(std::to_string(below(random_, 6)))); // most menus have five or six items
         ScriptPlatform::showModal(dialog);
@@ -60,8 +60,8 @@ FormState stateOf(const Form& form) {
 }
 
 /// Buttons that change the data and stay in the data view.
-const std::vector<std::string> editing = {"cmdAdd", "cmdDelete", "cmdArith", "cmdColArith", "cmdTransform",
-                                          "cmdResize"};
+const std::vector<std::string> editing = {"cmdAdd",      "cmdDelete",    "cmdArith",
+                                          "cmdColArith", "cmdTransform", "cmdResize"};
 
 void useGrid(Form& form, DataGrid& grid, Random& random) {
     const int row = below(random, grid.rows());

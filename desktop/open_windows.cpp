@@ -1,15 +1,15 @@
-#include "desktop/windows.h"
+#include "desktop/open_windows.h"
 
 #include <algorithm>
 
 namespace vantore {
 
-FormWindow& Windows::open(Form& form, WindowSteps& steps) {
+FormWindow& OpenWindows::open(Form& form, WindowSteps& steps) {
     windows_.push_back(std::make_unique<FormWindow>(form, steps, front()));
     return *windows_.back();
 }
 
-void Windows::close(const Form& form) {
+void OpenWindows::close(const Form& form) {
     const auto found = std::find_if(windows_.begin(), windows_.end(),
                                     [&](const auto& window) { return &window->form() == &form; });
     if (found == windows_.end()) return;
@@ -18,17 +18,17 @@ void Windows::close(const Form& form) {
     window->hide();
 }
 
-void Windows::closeAll() {
+void OpenWindows::closeAll() {
     while (!windows_.empty()) windows_.pop_back();
 }
 
-FormWindow* Windows::find(const Form& form) const {
+FormWindow* OpenWindows::find(const Form& form) const {
     for (const auto& window : windows_)
         if (&window->form() == &form) return window.get();
     return nullptr;
 }
 
-void Windows::refresh() {
+void OpenWindows::refresh() {
     // By index: leaving a text box may run a handler that opens a dialog.
     // NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->refresh();

@@ -7,13 +7,13 @@
 
 namespace vantore {
 
-/// The windows that are open, the one in front last.
-class Windows {
+/// The windows on the screen, the one in front last.
+class OpenWindows {
   public:
-    Windows() = default;
-    ~Windows() { closeAll(); }
-    Windows(const Windows&) = delete;
-    Windows& operator=(const Windows&) = delete;
+    OpenWindows() = default;
+    ~OpenWindows() { closeAll(); }
+    OpenWindows(const OpenWindows&) = delete;
+    OpenWindows& operator=(const OpenWindows&) = delete;
 
     /// Opens a window for the form over the one in front.
     FormWindow& open(Form& form, WindowSteps& steps);

@@ -1,4 +1,4 @@
-#include "desktop/svg_file.h"
+#include "drawing/svg_file.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -8,8 +8,8 @@
 #include <memory>
 #include <string_view>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {
@@ -50,26 +50,26 @@ QByteArray withFallbackFonts(QByteArray svg) {
 
 } // namespace
 
-QByteArray svgOf(const Form& form, const Control& drawing) {
-    needApplication();
+QByteArray svgOf(const Drawing& drawing, const QString& title) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    const QSizeF size = unitsOf(form, drawing);
+    const QSizeF size = drawing.size();
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setResolution(dotsPerInch);
     generator.setSize(size.toSize());
     generator.setViewBox(QRectF(QPointF(0, 0), size));
-    generator.setTitle(qtText(form.caption));
+    generator.setTitle(title);
     generator.setDescription("Vantore");
     QPainter painter(&generator);
-    paintDrawing(painter, form, drawing);
+    drawing.paint(painter);
     painter.end();
     return withFallbackFonts(bytes);
 }
 
 void writeSvgFile(const Form& form, const Control& drawing, const std::filesystem::path& path) {
-    const QByteArray svg = svgOf(form, drawing);
+    needApplication();
+    const QByteArray svg = svgOf(Drawing(form, drawing), qtText(form.caption));
     replaceFile(path, std::string_view(svg.constData(), static_cast<std::size_t>(svg.size())));
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/chart_drawing.h"
+#include "drawing/chart_drawing.h"
 
 #include <QAreaSeries>
 #include <QChart>
@@ -12,10 +12,9 @@
 #include <QValueAxis>
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 
@@ -29,8 +28,12 @@ constexpr double lineWidth = 1.8;
 constexpr double barShare = .7; // of the distance between two bars
 constexpr int chartMargin = 8;  // pixels
 constexpr int mostTicks = 10;
-constexpr double pointsEdge = .03;  // of an axis, so that a point at its end is drawn whole
-constexpr double leastShare = 1E-6; // of a value: the length of an axis whose ends are equal
+constexpr int leastTicks = 2;
+constexpr double besideAxis = 90;     // pixels of titles, labels and legend along an axis
+constexpr double tickRoomAcross = 30; // pixels of a label under the axis
+constexpr double tickRoomUp = 24;     // pixels of a label beside it
+constexpr double pointsEdge = .03;    // of an axis, so that a point at its end is drawn whole
+constexpr double leastShare = 1E-6;   // of a value: the length of an axis whose ends are equal
 
 QFont chartFont(double points, double scale, bool bold = false) {
     return qtFont({.family = "Arial", .size = points * scale, .bold = bold});
@@ -52,24 +55,37 @@ ChartAxis drawnAxis(const ChartAxis& axis, double edge) {
     return drawn;
 }
 
-QValueAxis* addAxis(QChart& chart, const ChartAxis& ends, Qt::Alignment side, double scale, double edge) {
-    auto item = std::make_unique<QValueAxis>();
-    const ChartAxis axis = drawnAxis(ends, edge);
-    const double tick = roundTick(axis.low, axis.high, mostTicks);
+/// As many ticks as have room for their labels: those without it are shown as dots.
+int mostTicksOn(double length, double room, double scale) {
+    return std::clamp(static_cast<int>((length - besideAxis * scale) / (room * scale)), leastTicks,
+                      mostTicks);
+}
+
+struct AxisLook {
+    Qt::Alignment side;
+    int mostTicks;
+    double scale; ///< of its texts
+    double edge;  ///< share of its length that is added at both ends
+};
+
+QValueAxis* addAxis(QChart& chart, const ChartAxis& ends, const AxisLook& look) {
+    auto* item = new QValueAxis(&chart);
+    const ChartAxis axis = drawnAxis(ends, look.edge);
+    const double tick = roundTick(axis.low, axis.high, look.mostTicks);
     item->setRange(axis.low, axis.high);
     item->setTickType(QValueAxis::TicksDynamic);
     item->setTickAnchor(std::ceil(axis.low / tick) * tick);
     item->setTickInterval(tick);
     item->setLabelFormat(QString("%.%1f").arg(tickDecimals(tick)));
     item->setTitleText(qtText(axis.label).toHtmlEscaped());
-    item->setTitleFont(chartFont(labelSize, scale));
-    item->setLabelsFont(chartFont(tickSize, scale));
+    item->setTitleFont(chartFont(labelSize, look.scale));
+    item->setLabelsFont(chartFont(tickSize, look.scale));
     item->setGridLinePen(QPen(QColor(0xE2, 0xE2, 0xE2), 1));
     item->setLinePen(QPen(QColor(0x60, 0x60, 0x60), 1));
     item->setLabelsColor(Qt::black);
     item->setTitleBrush(Qt::black);
-    chart.addAxis(item.get(), side);
-    return item.release(); // the chart's own
+    chart.addAxis(item, look.side);
+    return item;
 }
 
 QList<QPointF> pointsOf(const ChartSeries& series) {
@@ -94,25 +110,26 @@ QList<QPointF> barOutline(const std::vector<ChartPoint>& points) {
     return outline;
 }
 
-std::unique_ptr<QAbstractSeries> makeSeries(const ChartSeries& series, double scale) {
+QAbstractSeries* makeSeries(QChart& chart, const ChartSeries& series, double scale) {
     const QColor colour = qtColour(series.colour);
     if (series.kind == SeriesKind::Points) {
-        auto points = std::make_unique<QScatterSeries>();
+        auto* points = new QScatterSeries(&chart);
         points->setMarkerSize(pointSize * scale);
         points->setColor(colour);
         points->setBorderColor(colour);
         points->replace(pointsOf(series));
         return points;
     }
-    auto line = std::make_unique<QLineSeries>();
+    auto* line = new QLineSeries(&chart);
     line->setPen(QPen(colour, lineWidth * scale));
     if (series.kind == SeriesKind::Line) {
         line->replace(pointsOf(series));
         return line;
     }
     line->replace(barOutline(series.points));
-    auto bars = std::make_unique<QAreaSeries>(line.get());
-    line.release()->setParent(bars.get());
+    auto* bars = new QAreaSeries(line);
+    line->setParent(bars);
+    bars->setParent(&chart);
     bars->setBrush(colour);
     bars->setPen(QPen(colour, 1));
     return bars;
@@ -120,7 +137,7 @@ std::unique_ptr<QAbstractSeries> makeSeries(const ChartSeries& series, double sc
 
 void addSeries(QChart& chart, const ChartData& data, QValueAxis* x, QValueAxis* y, double scale) {
     for (const ChartSeries& series : data.series) {
-        QAbstractSeries* item = makeSeries(series, scale).release(); // the chart's own
+        QAbstractSeries* item = makeSeries(chart, series, scale);
         item->setName(qtText(series.name).toHtmlEscaped());
         chart.addSeries(item);
         item->attachAxis(x);
@@ -141,9 +158,8 @@ double roundTick(double low, double high, int most) {
 
 void paintChart(QPainter& painter, const ChartData& data, QSizeF size, double scale) {
     QGraphicsScene scene(QRectF(QPointF(0, 0), size));
-    auto owned = std::make_unique<QChart>();
-    QChart& chart = *owned;
-    scene.addItem(owned.release()); // the scene's own
+    QChart& chart = *new QChart();
+    scene.addItem(&chart);
     chart.setBackgroundVisible(false);
     chart.layout()->setContentsMargins(0, 0, 0, 0);
     chart.setMargins(QMargins(chartMargin, chartMargin, chartMargin, chartMargin));
@@ -156,8 +172,10 @@ void paintChart(QPainter& painter, const ChartData& data, QSizeF size, double sc
     const bool points = std::ranges::any_of(
         data.series, [](const ChartSeries& series) { return series.kind == SeriesKind::Points; });
     const double edge = points ? pointsEdge : 0;
-    QValueAxis* x = addAxis(chart, data.x, Qt::AlignBottom, scale, edge);
-    QValueAxis* y = addAxis(chart, data.y, Qt::AlignLeft, scale, edge);
+    QValueAxis* x = addAxis(chart, data.x,
+                            {Qt::AlignBottom, mostTicksOn(size.width(), tickRoomAcross, scale), scale, edge});
+    QValueAxis* y =
+        addAxis(chart, data.y, {Qt::AlignLeft, mostTicksOn(size.height(), tickRoomUp, scale), scale, edge});
     addSeries(chart, data, x, y, scale);
     chart.resize(size);
     chart.layout()->activate();

@@ -2,14 +2,14 @@
 
 #include <QImage>
 #include <filesystem>
+#include <string>
 
-#include "shell/forms/form.h"
-#include "shell/forms/print_job.h"
+#include "drawing/drawing.h"
 
 namespace vantore {
 
-/// A drawing as a picture with `pixelsPerUnit` pixels for each unit of the surface.
-QImage imageOf(const Form& form, const Control& drawing, double pixelsPerUnit);
+/// A drawing as a picture with `pixelsPerUnit` pixels for each of its units.
+QImage imageOf(const Drawing& drawing, double pixelsPerUnit);
 
 /// The same as a picture for a print job.
 CapturedPicture pictureOf(const QImage& image);
@@ -17,6 +17,6 @@ QImage imageOf(const CapturedPicture& picture);
 
 /// Writes a drawing as SVG, PNG or PDF, as the ending of the file's name says; SVG for any other ending.
 /// RuntimeErrors as `replaceFile`.
-void saveDrawing(const Form& form, const Control& drawing, const std::filesystem::path& path);
+void saveDrawing(const Drawing& drawing, const std::string& title, const std::filesystem::path& path);
 
 } // namespace vantore

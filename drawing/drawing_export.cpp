@@ -1,4 +1,4 @@
-#include "desktop/drawing_export.h"
+#include "drawing/drawing_export.h"
 
 #include <QBuffer>
 #include <QPageSize>
@@ -8,9 +8,9 @@
 #include <cstring>
 #include <string_view>
 
-#include "desktop/drawing.h"
-#include "desktop/fonts.h"
-#include "desktop/svg_file.h"
+#include "drawing/drawing.h"
+#include "drawing/fonts.h"
+#include "drawing/svg_file.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 
@@ -23,46 +23,45 @@ constexpr double pointsPerUnit = .75;    // 96 units to the inch
 constexpr int pdfDotsPerInch = 1200;
 constexpr double unitsPerInch = 96;
 
-QByteArray pngOf(const Form& form, const Control& drawing) {
+QByteArray pngOf(const Drawing& drawing) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    imageOf(form, drawing, savedPixelsPerUnit).save(&buffer, "PNG");
+    imageOf(drawing, savedPixelsPerUnit).save(&buffer, "PNG");
     return bytes;
 }
 
 /// One page of the drawing's size.
-QByteArray pdfOf(const Form& form, const Control& drawing) {
+QByteArray pdfOf(const Drawing& drawing, const QString& title) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(pdfDotsPerInch);
-    writer.setTitle(qtText(form.caption));
-    writer.setPageSize(QPageSize(unitsOf(form, drawing) * pointsPerUnit, QPageSize::Point));
+    writer.setTitle(title);
+    writer.setPageSize(QPageSize(drawing.size() * pointsPerUnit, QPageSize::Point));
     writer.setPageMargins({});
     QPainter painter(&writer);
     painter.scale(pdfDotsPerInch / unitsPerInch, pdfDotsPerInch / unitsPerInch);
-    paintDrawing(painter, form, drawing);
+    drawing.paint(painter);
     painter.end();
     return bytes;
 }
 
 } // namespace
 
-QImage imageOf(const Form& form, const Control& drawing, double pixelsPerUnit) {
-    const QSizeF size = unitsOf(form, drawing) * pixelsPerUnit;
-    QImage image(size.toSize(), QImage::Format_ARGB32);
+QImage imageOf(const Drawing& drawing, double pixelsPerUnit) {
+    QImage image((drawing.size() * pixelsPerUnit).toSize(), QImage::Format_ARGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(pixelsPerUnit, pixelsPerUnit);
-    paintDrawing(painter, form, drawing);
+    drawing.paint(painter);
     return image;
 }
 
 CapturedPicture pictureOf(const QImage& image) {
     const QImage pixels = image.convertToFormat(QImage::Format_ARGB32);
-    CapturedPicture picture{pixels.width(), pixels.height(), {}};
+    CapturedPicture picture{.width = pixels.width(), .height = pixels.height()};
     const auto width = static_cast<std::size_t>(pixels.width());
     picture.pixels.resize(width * static_cast<std::size_t>(pixels.height()));
     for (int row = 0; row < pixels.height(); ++row)
@@ -81,10 +80,11 @@ QImage imageOf(const CapturedPicture& picture) {
     return image;
 }
 
-void saveDrawing(const Form& form, const Control& drawing, const std::filesystem::path& path) {
+void saveDrawing(const Drawing& drawing, const std::string& title, const std::filesystem::path& path) {
     const std::string ending = lowerCase(textOf(path.extension()));
-    if (ending != ".png" && ending != ".pdf") return writeSvgFile(form, drawing, path);
-    const QByteArray bytes = ending == ".png" ? pngOf(form, drawing) : pdfOf(form, drawing);
+    const QByteArray bytes = ending == ".png"   ? pngOf(drawing)
+                             : ending == ".pdf" ? pdfOf(drawing, qtText(title))
+                                                : svgOf(drawing, qtText(title));
     replaceFile(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
