@@ -2,6 +2,14 @@
 
 namespace vantore {
 
+namespace {
+
+constexpr const char* usualPrintQuestion = "Select YES to print.  Alternately, choose NO to copy image to "
+                                           "the clipboard. Then, paste the clipboard image to "
+                                           "another program such as WORD or POWERPOINT and print.";
+
+} // namespace
+
 ModuleWording ModuleWording::completed() const {
     ModuleWording all = *this;
     std::string* const titles[] = {&all.windowTitle,
@@ -20,6 +28,7 @@ ModuleWording ModuleWording::completed() const {
         if (title->empty()) *title = name;
     if (all.arithmetic.highlighted && all.arithmetic.highlighted->title.empty())
         all.arithmetic.highlighted->title = name;
+    if (all.printQuestion.text.empty()) all.printQuestion.text = usualPrintQuestion;
     if (all.saveFilter.empty()) all.saveFilter = filter;
     return all;
 }

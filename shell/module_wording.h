@@ -7,11 +7,10 @@
 
 namespace vantore {
 
-/// The question of `PrintPlotImage`, and which answer prints. An empty title is the module's name.
+/// The question of `PrintPlotImage`, and which answer prints. An empty text is the question that most modules
+/// ask, an empty title the module's name.
 struct PrintQuestion {
-    std::string text =
-        "Select YES to print.  Alternately, choose NO to copy image to the clipboard. Then, paste the "
-        "clipboard image to another program such as WORD or POWERPOINT and print.";
+    std::string text = {};
     std::string title = {};
     bool yesPrints = true;
 };
