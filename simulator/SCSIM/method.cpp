@@ -41,7 +41,7 @@ int dayAfter(int day, double time) {
 /// One run, from its start to its end.
 class Channel {
   public:
-    Channel(const Problem& problem, UniformGenerator& uniforms, const Answers& answers, Run& run)
+    Channel(const Problem& problem, UniformGenerator& uniforms, const Answers& answers, RunFigures& run)
         : problem_(problem), uniforms_(uniforms), run_(run), days_(run.days),
           forecasts_(problem, answers, run.days),
           replenishments_{{{Level::Retailer, problem.levels(Level::Retailer), answers, safety_},
@@ -68,7 +68,7 @@ class Channel {
 
     const Problem& problem_;
     UniformGenerator& uniforms_;
-    Run& run_;
+    RunFigures& run_;
     Days& days_;
     Forecasts forecasts_;
     SafetyFactor safety_;
@@ -233,7 +233,7 @@ int lastDayOf(const Problem& problem) {
 }
 
 Ending simulate(const Problem& problem, UniformGenerator& uniforms, const Answers& answers,
-                const Watchers& watchers, Run& run) {
+                const Watchers& watchers, RunFigures& run) {
     if (problem.factory.lotSize < 1) throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     uniforms.reseed(problem.seed);
     run.calculated = {};

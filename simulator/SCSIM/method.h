@@ -22,7 +22,7 @@ struct Watchers {
 };
 
 /// The figures of a run. They are filled as it goes on and hold what was reached, however it ends.
-struct Run {
+struct RunFigures {
     Days days;
     PerLevel<ControlParameters> calculated;
 };
@@ -44,6 +44,6 @@ int lastDayOf(const Problem& problem);
 /// Stopped where an answer ends the run. SubscriptOutOfRange for a lead time that leads beyond day 9000;
 /// InvalidProcedureCall, DivisionByZero and Overflow where a figure has no finite value.
 Ending simulate(const Problem& problem, UniformGenerator& uniforms, const Answers& answers,
-                const Watchers& watchers, Run& run);
+                const Watchers& watchers, RunFigures& run);
 
 } // namespace vantore::scsim
