@@ -40,19 +40,20 @@ constexpr std::array<Heading, traceColumns> headings = {{{"   ", "Day"},
 
 } // namespace
 
-std::string traceHeading() {
-    ItemWriter writer;
-    for (const Heading& heading : headings) writer.string(heading.upper);
-    writer.endLine();
-    for (const Heading& heading : headings) writer.string(heading.lower);
-    writer.endLine();
-    return writer.text();
+std::vector<std::string> traceHeading() {
+    ItemWriter upper;
+    ItemWriter lower;
+    for (const Heading& heading : headings) {
+        upper.string(heading.upper);
+        lower.string(heading.lower);
+    }
+    return {upper.text(), lower.text()};
 }
 
 std::string traceLine(const TraceRow& row) {
     ItemWriter writer;
     for (const double value : row) writer.number(value);
-    return writer.endLine().text();
+    return writer.text();
 }
 
 } // namespace vantore::scsim
