@@ -204,7 +204,7 @@ void SCSim::addDemandPage() {
 
     const auto addCaption = [this](const std::string& name, const std::string& text, double top,
                                    const std::function<bool()>& condition) {
-        Label& label = addLabel(name, text, {pageLeft, top, 5400, 240}, {View::Data});
+        Label& label = addLabel(name, text, {pageLeft, top, 5400, 260}, {View::Data});
         label.container = Folder1;
         label.page = demandPage;
         Seen(label).when(condition);
@@ -569,8 +569,9 @@ void SCSim::plotDemand() {
 
 void SCSim::printData() {
     const Font font = {"Times Roman", 10, false};
+    const PrintLines page = listingOf(channel_.take());
     PrintJob job{.title = wording().name};
-    for (const std::string& line : listingOf(channel_.take()).lines()) job.print(line, font);
+    for (const std::string& line : page.lines()) job.print(line, font);
     print(job);
 }
 
