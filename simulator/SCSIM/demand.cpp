@@ -31,10 +31,9 @@ class Season {
     explicit Season(const Table<double, 1, monthsPerYear>& indices) : indices_(indices) {}
 
     double on(double dayOfYear) {
-        for (int month = 1; month <= monthsPerYear; ++month) {
-            const int last = month * daysPerMonth;
-            if (dayOfYear >= last - daysPerMonth + 1 && dayOfYear <= last) index_ = indices_(month);
-        }
+        if (dayOfYear < 1) return index_;
+        const int month = static_cast<int>((dayOfYear - 1) / daysPerMonth) + 1;
+        if (dayOfYear <= month * daysPerMonth) index_ = indices_(month);
         return index_;
     }
 

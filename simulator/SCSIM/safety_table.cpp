@@ -1,5 +1,6 @@
 #include "simulator/SCSIM/safety_table.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -53,13 +54,11 @@ const SafetyRow& safetyRow(int row) {
 
 std::optional<double> safetyFactor(double loss) {
     if (loss > mostLoss) return 0;
-    for (std::size_t i = 0; i + 1 < rows.size(); ++i) {
-        const SafetyRow& row = rows[i];
-        const SafetyRow& next = rows[i + 1];
-        if (loss <= row.loss && loss > next.loss)
-            return std::abs(loss - row.loss) <= std::abs(loss - next.loss) ? row.z : next.z;
-    }
-    return std::nullopt;
+    const auto next =
+        std::ranges::partition_point(rows, [loss](const SafetyRow& row) { return row.loss >= loss; });
+    if (next == rows.end()) return std::nullopt;
+    const SafetyRow& row = *(next - 1);
+    return std::abs(loss - row.loss) <= std::abs(loss - next->loss) ? row.z : next->z;
 }
 
 } // namespace vantore::scsim
