@@ -27,6 +27,8 @@ class SCSim : public ModuleFrame {
   private:
     struct ParameterFrame;
 
+    // The pages, in pages.cpp.
+    void addPages();
     void addInitializationPage();
     void addDemandPage();
     void addLevelPage(Level level);
