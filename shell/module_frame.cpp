@@ -292,7 +292,7 @@ std::string ModuleFrame::readOrCreate() const {
     try {
         return readTextFile(pathOf(currentFile_));
     } catch (const RuntimeError& error) {
-        if (error.number() != ErrorNumber::FileNotFound) throw;
+        if (error.number() != ErrorNumber::FileNotFound || defaultSkeleton().empty()) throw;
     }
     replaceFile(pathOf(currentFile_), defaultSkeleton());
     suite().platform.dialogs.failed(currentFile_ + " had to be made new");

@@ -46,7 +46,7 @@ class ModuleFrame : public SuiteWindow {
   protected:
     // What a module gives; one without a problem file leaves the first three.
 
-    /// The text of a new problem's file.
+    /// The text of a new problem's file; empty where a missing file is an error.
     virtual std::string defaultSkeleton() const { return {}; }
 
     /// Reads a problem file and puts it into the controls. It reads whole before it puts anything.

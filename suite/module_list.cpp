@@ -9,6 +9,7 @@
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
+#include "simulator/SCSIM/SCSim.h"
 
 namespace vantore {
 
@@ -30,6 +31,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),
         entry<mulreg::MULREG>("MULREG"),
+        entry<scsim::SCSim>("SCSIM"),
     };
 }
 

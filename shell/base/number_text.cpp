@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 
 #include "shell/base/arithmetic.h"
@@ -13,6 +14,7 @@ namespace vantore {
 namespace {
 
 constexpr int significantDigits = 15;
+constexpr double firstWithExponent = 1E15;
 constexpr std::size_t leastFittedWidth = 7; // "-1E-308"
 
 /// A number as sign, significant decimal digits (the first not 0, none for 0) and the place of the point:
@@ -251,6 +253,9 @@ double valueOf(const NumericPrefix& prefix) {
 } // namespace
 
 std::string defaultText(double value) {
+    // Whole numbers by a short way: files and traces are full of them.
+    if (std::abs(value) < firstWithExponent && value == std::trunc(value))
+        return std::to_string(static_cast<long long>(value));
     const Decimal number = decimalOf(value);
     if (number.digits.empty()) return "0";
     return (number.negative ? "-" : "") + (isPlain(number) ? plainText(number) : exponentText(number));
