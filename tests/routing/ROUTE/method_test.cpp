@@ -56,8 +56,7 @@ TEST(ShortestPaths, DontReachWhatCostsTooMuch) {
     EXPECT_TRUE(pathTo(solution, 2).connected());
     EXPECT_FALSE(pathTo(solution, 3).connected());
     EXPECT_FALSE(pathTo(solution, 4).connected());
-    EXPECT_TRUE(
-        pathTo(shortestPaths(networkOf(3, 1, {{1, 2, 60000}, {2, 3, 39999.98}})), 3).connected());
+    EXPECT_TRUE(pathTo(shortestPaths(networkOf(3, 1, {{1, 2, 60000}, {2, 3, 39999.98}})), 3).connected());
 }
 
 TEST(ShortestPaths, TellWhatTheOriginDoesntReach) {
@@ -72,19 +71,17 @@ TEST(ShortestPaths, TellWhatTheOriginDoesntReach) {
 }
 
 TEST(ShortestPaths, KeepTheLastFoundOfEqualPaths) {
-    // 4 is reached through 2 and through 3 at the cost of 2. From 1 the last arc is looked at first, so 3 leads
-    // the list of candidates, is taken first, and 2, taken last, is the predecessor that stays.
-    const Solution solution =
-        shortestPaths(networkOf(4, 1, {{1, 2, 1}, {1, 3, 1}, {2, 4, 1}, {3, 4, 1}}));
+    // 4 is reached through 2 and through 3 at the cost of 2. From 1 the last arc is looked at first, so 3
+    // leads the list of candidates, is taken first, and 2, taken last, is the predecessor that stays.
+    const Solution solution = shortestPaths(networkOf(4, 1, {{1, 2, 1}, {1, 3, 1}, {2, 4, 1}, {3, 4, 1}}));
     EXPECT_EQ(pathTo(solution, 4).nodes, (Nodes{1, 2, 4}));
-    const Solution swapped =
-        shortestPaths(networkOf(4, 1, {{1, 3, 1}, {1, 2, 1}, {2, 4, 1}, {3, 4, 1}}));
+    const Solution swapped = shortestPaths(networkOf(4, 1, {{1, 3, 1}, {1, 2, 1}, {2, 4, 1}, {3, 4, 1}}));
     EXPECT_EQ(pathTo(swapped, 4).nodes, (Nodes{1, 3, 4}));
 }
 
 TEST(ShortestPaths, PutTheLastCandidateIntoThePlaceOfTheOneTaken) {
-    // Candidates from 1 in the order 5, 4, 3, 2 (arcs are looked at from the last to the first). 5 is taken, 2
-    // moves to its place and 6 joins: 2, 4, 3, 6. 2 is taken: 6, 4, 3. Then 4, and 3 labels 6 last.
+    // Candidates from 1 in the order 5, 4, 3, 2 (arcs are looked at from the last to the first). 5 is taken,
+    // 2 moves to its place and 6 joins: 2, 4, 3, 6. 2 is taken: 6, 4, 3. Then 4, and 3 labels 6 last.
     const Solution solution = shortestPaths(networkOf(
         6, 1, {{1, 2, 1}, {1, 3, 1}, {1, 4, 1}, {1, 5, 1}, {2, 6, 1}, {3, 6, 1}, {4, 6, 1}, {5, 6, 1}}));
     EXPECT_EQ(pathTo(solution, 6).nodes, (Nodes{1, 3, 6}));

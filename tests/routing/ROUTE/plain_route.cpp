@@ -57,9 +57,7 @@ class PlainSolver {
 
   private:
     static std::size_t at(long index) { return static_cast<std::size_t>(index); }
-    static std::string number(long value) {
-        return (value < 0 ? "" : " ") + std::to_string(value) + " ";
-    }
+    static std::string number(long value) { return (value < 0 ? "" : " ") + std::to_string(value) + " "; }
     long origin() const { return network_.originNode; }
     long arcs() const { return static_cast<long>(from_.size()) - 1; }
     void say(const std::string& line) { run_.report.push_back(line); }
@@ -83,8 +81,7 @@ class PlainSolver {
         bool joinedToArc = false;
         for (long i = 1; i <= arcs(); ++i)
             joinedToArc = joinedToArc || from_[at(i)] == origin() || to_[at(i)] == origin();
-        if (!joinedToArc)
-            return "Origin node number " + std::to_string(origin()) + " is not in arc list.";
+        if (!joinedToArc) return "Origin node number " + std::to_string(origin()) + " is not in arc list.";
         if (std::string wrong = checkPairs(); !wrong.empty()) return wrong;
         if (std::string wrong = checkArcs(); !wrong.empty()) return wrong;
         bool anyPlace = false;

@@ -141,13 +141,11 @@ TEST(RouteChecks, WantData) {
 TEST(RouteChecks, ReportDuplicatesByPairs) {
     RouteNetwork network = good();
     network.arcs(++network.arcCount) = {3, 2, 9};
-    expectFault(network,
-                "WARNING: Node numbers are duplicated and reversed at sequence nnumbers 2 and 4.");
+    expectFault(network, "WARNING: Node numbers are duplicated and reversed at sequence nnumbers 2 and 4.");
     network.arcs(4) = {3, 4, 9};
     expectFault(network, "WARNING: Node numbers are duplicated at sequence numbers 3 and 4.");
     network.arcs(++network.arcCount) = {2, 1, 9};
-    expectFault(network,
-                "WARNING: Node numbers are duplicated and reversed at sequence nnumbers 1 and 5.");
+    expectFault(network, "WARNING: Node numbers are duplicated and reversed at sequence nnumbers 1 and 5.");
     network.arcs(1) = {4, 4, 1};
     network.arcs(4) = {1, 4, 1};
     expectFault(network, "WARNING: Duplicate node numbers in arc list at sequence number 1.");

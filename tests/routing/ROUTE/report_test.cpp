@@ -37,8 +37,9 @@ TEST(RouteReport, TellsWhatIsNotConnected) {
 TEST(RouteReport, EndsWithAnOriginThatIsNotJoined) {
     const RouteNetwork network = networkOf(3, 1, {{1, 2, 0}, {2, 3, 100000}});
     const Solution solution = shortestPaths(network);
-    EXPECT_EQ(warnings(network, solution), (Lines{"ERROR: At least two nodes are needed.",
-                                                  "ERROR: The origin node is not connected to the network."}));
+    EXPECT_EQ(warnings(network, solution),
+              (Lines{"ERROR: At least two nodes are needed.",
+                     "ERROR: The origin node is not connected to the network."}));
     EXPECT_EQ(reportPage(network, solution).lines(),
               (Lines{"Sample", "Origin node number = 1 ", "   Number of nodes = 0 ", "   Number of arcs = 0 ",
                      "ERROR: THE ORIGIN NODE IS NOT CONNECTED TO THE NETWORK"}));
