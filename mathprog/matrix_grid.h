@@ -18,27 +18,6 @@ namespace vantore {
 /// highlight is the current cell alone. SubscriptOutOfRange when the new grid has no room for the roles.
 void reshapeMatrix(DataGrid& grid, int rows, int cols, int roleRows, int roleCols);
 
-/// Reshapes a matrix to a size as it is typed. A size of several digits passes through smaller ones, 12
-/// begins as 1; what the first digits cut off comes back with the next, and what was typed since stays.
-class TypedReshape {
-  public:
-    /// As `reshapeMatrix`, for the text `typed` of a size box. A text that goes on where the last one ended
-    /// brings back what that one cut off; any other forgets it.
-    void operator()(DataGrid& grid, const std::string& typed, int rows, int cols, int roleRows, int roleCols);
-
-    /// The grid's size from before the typing that `typed` goes on with, else the size it has.
-    struct Size {
-        int rows, cols;
-    };
-    Size sizeBefore(const DataGrid& grid, const std::string& typed) const;
-
-  private:
-    bool goesOn(const std::string& typed) const;
-
-    std::string typed_;
-    std::vector<std::vector<std::string>> before_;
-};
-
 /// The width in twips of a column that shows a text: `width` has room for `room` characters, each further one
 /// of the longest line takes 96 twips more.
 double widthForText(std::string_view text, std::size_t room, double width);

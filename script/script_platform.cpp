@@ -24,34 +24,52 @@ constexpr double pageHeight = 29700 - 2 * 635;
 
 } // namespace
 
-ScriptPlatform::ScriptPlatform(std::ostream& out, int screenWidth, int screenHeight)
-    : out_(out), screenWidth_(screenWidth), screenHeight_(screenHeight) {}
+ScriptPlatform::ScriptPlatform(std::ostream& out, int screenWidth, int screenHeight, bool strict)
+    : out_(out), screenWidth_(screenWidth), screenHeight_(screenHeight), strict_(strict) {}
 
-std::optional<std::string> ScriptPlatform::nextAnswer(const std::string& question) {
+void ScriptPlatform::failed(const std::string& what) {
+    if (strict_) throw PlatformFailure(what);
+}
+
+ScriptAnswer ScriptPlatform::nextAnswer(const std::string& question) {
     if (answers_.empty()) throw PlatformFailure("no answer for " + question);
-    std::optional<std::string> answer = std::move(answers_.front());
+    ScriptAnswer answer = std::move(answers_.front());
     answers_.pop_front();
     return answer;
 }
 
 void ScriptPlatform::showModal(DialogForm& dialog) {
     const std::string head = inQuotes(dialog.caption) + ": " + inQuotes(dialog.prompt());
-    if (auto* message = dynamic_cast<MsgeBx*>(&dialog)) {
-        message->press(message->cmdOK);
-        out_ << "MessageBx " << head << '\n';
-    } else if (auto* question = dynamic_cast<YNBx*>(&dialog)) {
-        const std::optional<std::string> answer = nextAnswer("YesNoBx " + head);
-        const bool yes = answer && equalIgnoringCase(*answer, "Yes");
-        if (answer && !yes && !equalIgnoringCase(*answer, "No"))
-            throw PlatformFailure("YesNoBx " + head + " can't be answered " + inQuotes(*answer));
-        question->press(yes ? question->cmdYes : question->cmdNo);
-        out_ << "YesNoBx " << head << " -> " << (yes ? "Yes" : "No") << '\n';
-    } else if (auto* input = dynamic_cast<InptBx*>(&dialog)) {
-        const std::string line = "InputBx " + head + " [" + inQuotes(input->txtInput.text()) + "]";
-        const std::optional<std::string> answer = nextAnswer(line);
-        if (answer) input->type(input->txtInput, *answer);
-        input->press(answer ? input->cmdOK : input->cmdCancel);
-        out_ << line << " -> " << (answer ? inQuotes(*answer) : "cancel") << '\n';
+    if (auto* question = dynamic_cast<YNBx*>(&dialog)) return ask(*question, head);
+    if (auto* input = dynamic_cast<InptBx*>(&dialog)) return ask(*input, head);
+    auto& message = dynamic_cast<MsgeBx&>(dialog);
+    message.press(message.cmdOK);
+    out_ << "MessageBx " << head << '\n';
+}
+
+void ScriptPlatform::ask(YNBx& question, const std::string& head) {
+    const ScriptAnswer answer = nextAnswer("YesNoBx " + head);
+    const bool closes = answer.kind == ScriptAnswer::Kind::Close;
+    const bool yes = equalIgnoringCase(answer.text, "Yes");
+    const bool no = answer.kind == ScriptAnswer::Kind::Cancel || equalIgnoringCase(answer.text, "No");
+    if (!closes && !yes && !no)
+        throw PlatformFailure("YesNoBx " + head + " can't be answered " + inQuotes(answer.text));
+    out_ << "YesNoBx " << head << " -> " << (closes ? "close" : yes ? "Yes" : "No") << '\n';
+    if (closes) return question.close();
+    question.press(yes ? question.cmdYes : question.cmdNo);
+}
+
+void ScriptPlatform::ask(InptBx& input, const std::string& head) {
+    const std::string line = "InputBx " + head + " [" + inQuotes(input.txtInput.text()) + "]";
+    const ScriptAnswer answer = nextAnswer(line);
+    out_ << line << " -> ";
+    switch (answer.kind) {
+    case ScriptAnswer::Kind::Text:
+        out_ << inQuotes(answer.text) << '\n';
+        input.type(input.txtInput, answer.text);
+        return input.press(input.cmdOK);
+    case ScriptAnswer::Kind::Cancel: out_ << "cancel\n"; return input.press(input.cmdCancel);
+    case ScriptAnswer::Kind::Close: out_ << "close\n"; return input.close();
     }
 }
 
@@ -75,14 +93,11 @@ void ScriptPlatform::tellPrinted() {
 
 void ScriptPlatform::tellClipboard() {
     out_ << "clipboard: ";
-    if (const auto* text = std::get_if<std::string>(&clipboard_)) {
-        out_ << "text " << inQuotes(*text);
-    } else if (const auto* picture = std::get_if<CapturedPicture>(&clipboard_)) {
-        out_ << "picture " << picture->width << 'x' << picture->height;
+    if (clipboard_) {
+        out_ << "picture " << clipboard_->width << 'x' << clipboard_->height << '\n';
     } else {
-        out_ << "empty";
+        out_ << "empty\n";
     }
-    out_ << '\n';
 }
 
 Printer::Area ScriptPlatform::printableArea(Orientation orientation) const {

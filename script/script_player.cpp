@@ -10,21 +10,34 @@ namespace vantore {
 
 namespace {
 
-constexpr double designScreenWidth = 800; // pixels
-constexpr double designScreenHeight = 600;
+/// A text in which \\t and \\n stand for tab and line end.
+std::string withMarksAsLineEnds(std::string_view text) {
+    return replaced(replaced(text, "\\t", "\t"), "\\n", "\n");
+}
+
+void requireCell(const DataGrid& grid, int row, int col) {
+    if (row < grid.rows() && col < grid.cols()) return;
+    throw PlatformFailure(grid.name + " has no cell " + std::to_string(row) + " " + std::to_string(col));
+}
 
 } // namespace
 
 ScriptPlayer::ScriptPlayer(const ScriptSettings& settings, std::ostream& out)
-    : out_(out), platform_(out, settings.screenWidth, settings.screenHeight), parts_(platform_.parts()),
-      suite_(parts_, moduleList()), svgWriter_(settings.writeSvg) {
+    : out_(out), platform_(out, settings.screenWidth, settings.screenHeight, settings.strict),
+      parts_(platform_.parts()), suite_(parts_, moduleList()), svgWriter_(settings.writeSvg) {
     suite_.installFolder = settings.installFolder;
     suite_.screenWidth = settings.screenWidth;
     suite_.screenHeight = settings.screenHeight;
-    suite_.scaleX = settings.screenWidth / designScreenWidth;
-    suite_.scaleY = settings.screenHeight / designScreenHeight;
+    suite_.setScale(settings.screenWidth, settings.screenHeight);
     settleQuietly(settings);
-    launcher_ = std::make_unique<Launcher>(suite_);
+    makeLauncher();
+}
+
+void ScriptPlayer::makeLauncher() {
+    suite_.windows.closeAll();
+    auto launcher = std::make_unique<Launcher>(suite_);
+    launcher_ = launcher.get();
+    suite_.windows.open(std::move(launcher));
 }
 
 /// Takes the folder of the settings, else of VANTORE.DRV, else the install folder, without a word.
@@ -52,6 +65,11 @@ const std::map<std::string, ScriptPlayer::Command, std::less<>>& ScriptPlayer::c
         {"current", &ScriptPlayer::makeCurrent},
         {"select", &ScriptPlayer::selectBlock},
         {"click", &ScriptPlayer::clickCell},
+        {"doubleclick", &ScriptPlayer::doubleClickCell},
+        {"paste", &ScriptPlayer::paste},
+        {"copy", &ScriptPlayer::copy},
+        {"undo", &ScriptPlayer::undo},
+        {"redo", &ScriptPlayer::redo},
         {"key", &ScriptPlayer::pressKey},
         {"insert", &ScriptPlayer::pressInsert},
         {"tab", &ScriptPlayer::selectPage},
@@ -91,27 +109,28 @@ void ScriptPlayer::step(std::string_view text) {
     const auto command = commands().find(word);
     if (command == commands().end()) throw PlatformFailure("unknown command " + word);
     (this->*command->second)(line);
-    launcher_->unloadClosedModule();
+    suite_.windows.unloadClosed();
 }
 
 // Windows and controls
 
-Form& ScriptPlayer::front() {
-    if (launcher_->module() != nullptr) return *launcher_->module();
-    if (launched_ && !launcher_->closed) return *launcher_;
+/// The window that the script's user has before him; the launcher only once the script has started it.
+Form& ScriptPlayer::inUse() {
+    Form* front = suite_.windows.front();
+    if (front != nullptr && (front != launcher_ || launched_)) return *front;
     throw PlatformFailure("no window is open");
 }
 
 Control& ScriptPlayer::control(ScriptLine& line) {
     const std::string name = line.word("control");
-    owner_ = &front();
-    Control* found = owner_->find(name);
-    if (found == nullptr && launched_) {
-        owner_ = launcher_.get();
-        found = owner_->find(name);
+    inUse();
+    const auto& forms = suite_.windows.forms();
+    for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
+        if (form->get() == launcher_ && !launched_) continue;
+        owner_ = form->get();
+        if (Control* found = owner_->find(name)) return *found;
     }
-    if (found == nullptr) throw PlatformFailure("unknown control " + name);
-    return *found;
+    throw PlatformFailure("unknown control " + name);
 }
 
 template <class T>
@@ -126,7 +145,7 @@ T& ScriptPlayer::controlOf(ScriptLine& line, const char* kind) {
 template <class T>
 T& ScriptPlayer::onlyOne(const char* kind) {
     T* first = nullptr;
-    for (const auto& each : front().controls()) {
+    for (const auto& each : inUse().controls()) {
         auto* wanted = dynamic_cast<T*>(each.get());
         if (wanted == nullptr) continue;
         if (wanted->shown()) return *wanted;
@@ -136,16 +155,29 @@ T& ScriptPlayer::onlyOne(const char* kind) {
     return *first;
 }
 
+/// The window's control with pages: the one that is shown, else the first.
+Container& ScriptPlayer::tabControl() {
+    Container* first = nullptr;
+    for (const auto& each : inUse().controls()) {
+        auto* container = dynamic_cast<Container*>(each.get());
+        if (container == nullptr || container->pages.empty()) continue;
+        if (container->shown()) return *container;
+        if (first == nullptr) first = container;
+    }
+    if (first == nullptr) throw PlatformFailure("the window has no tab control");
+    return *first;
+}
+
 bool ScriptPlayer::refuses(const Control& control) {
     if (Form::accepts(control) && owner_->enabled) return false;
     out_ << "refused: " << control.name << (control.shown() ? " is disabled" : " is hidden") << '\n';
+    platform_.failed(control.name + " was refused");
     return true;
 }
 
 void ScriptPlayer::startLauncher(ScriptLine& line) {
     line.end();
-    launcher_.reset();
-    launcher_ = std::make_unique<Launcher>(suite_);
+    makeLauncher();
     launched_ = true;
     launcher_->load();
 }
@@ -153,22 +185,23 @@ void ScriptPlayer::startLauncher(ScriptLine& line) {
 void ScriptPlayer::openModule(ScriptLine& line) {
     const std::string name = line.word("module");
     line.end();
-    if (launcher_->closed) throw PlatformFailure("the program has ended");
-    if (launcher_->module() != nullptr) throw PlatformFailure("a module is open already");
+    if (suite_.windows.empty()) throw PlatformFailure("the program has ended");
+    if (suite_.windows.front() != launcher_)
+        throw PlatformFailure("a window is open over the launcher already");
     Button* button = launcher_->moduleButton(name);
     if (button == nullptr) throw PlatformFailure("unknown module " + name);
-    owner_ = launcher_.get();
+    owner_ = launcher_;
     if (!refuses(*button)) launcher_->press(*button);
 }
 
 void ScriptPlayer::closeWindow(ScriptLine& line) {
     line.end();
-    front().close();
+    inUse().close();
 }
 
 void ScriptPlayer::showTitle(ScriptLine& line) {
     line.end();
-    out_ << front().caption << '\n';
+    out_ << inUse().caption << '\n';
 }
 
 // Answers
@@ -181,8 +214,10 @@ void ScriptPlayer::queueFile(ScriptLine& line) {
 
 void ScriptPlayer::queueAnswer(ScriptLine& line) {
     const ScriptLine::Text answer = line.rest();
-    const bool cancels = answer.text == "cancel" && !answer.quoted;
-    platform_.queueAnswer(cancels ? std::nullopt : std::optional(answer.text));
+    const bool bare = !answer.quoted;
+    if (bare && answer.text == "cancel") return platform_.queueAnswer({ScriptAnswer::Kind::Cancel, {}});
+    if (bare && answer.text == "close") return platform_.queueAnswer({ScriptAnswer::Kind::Close, {}});
+    platform_.queueAnswer({ScriptAnswer::Kind::Text, answer.text});
 }
 
 // A user's actions
@@ -190,9 +225,8 @@ void ScriptPlayer::queueAnswer(ScriptLine& line) {
 void ScriptPlayer::press(ScriptLine& line) {
     Control& pressed = control(line);
     line.end();
-    const bool presses = dynamic_cast<Button*>(&pressed) != nullptr ||
-                         dynamic_cast<Option*>(&pressed) != nullptr ||
-                         dynamic_cast<CheckBox*>(&pressed) != nullptr;
+    const bool presses =
+        dynamic_cast<Button*>(&pressed) != nullptr || dynamic_cast<Choice*>(&pressed) != nullptr;
     if (!presses) throw PlatformFailure(pressed.name + " can't be pressed");
     if (!refuses(pressed)) owner_->press(pressed);
 }
@@ -215,62 +249,90 @@ void ScriptPlayer::leave(ScriptLine& line) {
     owner_->leave(box);
 }
 
-void ScriptPlayer::typeCell(ScriptLine& line) {
+ScriptPlayer::Cell ScriptPlayer::cell(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     const int row = line.number("row");
     const int col = line.number("column");
-    owner_->select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
-    owner_->key(grid, keys::escape);
-    for (const char32_t point : codePoints(line.rest().text)) owner_->key(grid, static_cast<int>(point));
+    requireCell(grid, row, col);
+    return {grid, row, col};
+}
+
+void ScriptPlayer::typeCell(ScriptLine& line) {
+    const Cell at = cell(line);
+    if (refuses(at.grid)) return;
+    owner_->select(at.grid, {.startRow = at.row, .endRow = at.row, .startCol = at.col, .endCol = at.col});
+    owner_->typeCell(at.grid, at.row, at.col, line.rest().text);
 }
 
 void ScriptPlayer::makeCurrent(ScriptLine& line) {
-    auto& grid = controlOf<DataGrid>(line, "grid");
-    const int row = line.number("row");
-    const int col = line.number("column");
+    const Cell at = cell(line);
     line.end();
-    owner_->select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    owner_->select(at.grid, {.startRow = at.row, .endRow = at.row, .startCol = at.col, .endCol = at.col});
 }
 
 void ScriptPlayer::selectBlock(ScriptLine& line) {
-    auto& grid = controlOf<DataGrid>(line, "grid");
-    CellBlock block;
-    block.startRow = line.number("row");
-    block.startCol = line.number("column");
-    block.endRow = line.number("row");
-    block.endCol = line.number("column");
+    const Cell first = cell(line);
+    const int endRow = line.number("row");
+    const int endCol = line.number("column");
     line.end();
-    owner_->select(grid, block);
+    requireCell(first.grid, endRow, endCol);
+    owner_->select(first.grid,
+                   {.startRow = first.row, .endRow = endRow, .startCol = first.col, .endCol = endCol});
 }
 
 void ScriptPlayer::clickCell(ScriptLine& line) {
-    auto& grid = controlOf<DataGrid>(line, "grid");
-    const int row = line.number("row");
-    const int col = line.number("column");
+    const Cell at = cell(line);
     line.end();
-    if (!refuses(grid)) owner_->click(grid, row, col);
+    if (!refuses(at.grid)) owner_->click(at.grid, at.row, at.col);
+}
+
+void ScriptPlayer::doubleClickCell(ScriptLine& line) {
+    const Cell at = cell(line);
+    line.end();
+    if (!refuses(at.grid)) owner_->doubleClick(at.grid, at.row, at.col);
 }
 
 void ScriptPlayer::pressKey(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     const int code = line.number("character code");
     line.end();
-    owner_->key(grid, code);
+    if (!refuses(grid)) owner_->key(grid, code);
 }
 
 void ScriptPlayer::pressInsert(ScriptLine& line) {
     auto& grid = controlOf<DataGrid>(line, "grid");
     line.end();
-    owner_->insertKey(grid);
+    if (!refuses(grid)) owner_->insertKey(grid);
+}
+
+void ScriptPlayer::paste(ScriptLine& line) {
+    auto& grid = controlOf<DataGrid>(line, "grid");
+    if (!refuses(grid)) owner_->paste(grid, withMarksAsLineEnds(line.rest().text));
+}
+
+void ScriptPlayer::copy(ScriptLine& line) {
+    const auto& grid = controlOf<DataGrid>(line, "grid");
+    line.end();
+    out_ << "copied: " << replaced(replaced(Form::copied(grid), "\t", "\\t"), "\n", "\\n") << '\n';
+}
+
+void ScriptPlayer::undo(ScriptLine& line) {
+    line.end();
+    inUse().undo();
+}
+
+void ScriptPlayer::redo(ScriptLine& line) {
+    line.end();
+    inUse().redo();
 }
 
 void ScriptPlayer::selectPage(ScriptLine& line) {
     const int page = line.number("page");
     line.end();
-    auto& tabs = onlyOne<TabControl>("tab control");
+    auto& tabs = tabControl();
     if (page >= static_cast<int>(tabs.pages.size()))
         throw PlatformFailure("there is no page " + std::to_string(page));
-    front().selectPage(tabs, page);
+    inUse().selectPage(tabs, page);
 }
 
 // What the transcript tells
@@ -315,14 +377,14 @@ void ScriptPlayer::writeSvg(ScriptLine& line) {
     if (name.empty()) throw PlatformFailure("missing file name");
     if (!svgWriter_) throw PlatformFailure("this build can't draw; svg needs one with the desktop");
     const Control* drawing = nullptr;
-    for (const auto& each : front().controls()) {
+    for (const auto& each : inUse().controls()) {
         const bool draws = dynamic_cast<PictureSurface*>(each.get()) != nullptr ||
                            dynamic_cast<Chart*>(each.get()) != nullptr;
         if (draws && (drawing == nullptr || each->shown())) drawing = each.get();
     }
     if (drawing == nullptr) throw PlatformFailure("the window has neither picture surface nor chart");
     const bool bare = name.find('/') == std::string::npos;
-    svgWriter_(front(), *drawing, pathOf(bare ? suite_.ioFolder + name : name));
+    svgWriter_(inUse(), *drawing, pathOf(bare ? suite_.ioFolder + name : name));
 }
 
 } // namespace vantore

@@ -25,7 +25,8 @@ struct ScriptSettings {
     std::string installFolder; ///< Without a separator at its end.
     int screenWidth = 800;     ///< pixels
     int screenHeight = 600;
-    SvgWriter writeSvg; ///< Empty in a build that can't draw.
+    bool strict = false; ///< A failed step ends the script.
+    SvgWriter writeSvg;  ///< Empty in a build that can't draw.
 };
 
 /// Plays a script: the suite's own windows, a user's actions from the script, the transcript to `out`.
@@ -36,7 +37,9 @@ class ScriptPlayer {
     /// Plays to the end. PlatformFailure ("line 12: ...") at the step that stops it.
     void play(std::istream& script);
 
+    /// The launcher, which stands behind all other windows, and the window in front.
     const Launcher& launcher() const { return *launcher_; }
+    const Form& front() const { return *suite_.windows.front(); }
 
   private:
     using Command = void (ScriptPlayer::*)(ScriptLine&);
@@ -56,6 +59,11 @@ class ScriptPlayer {
     void makeCurrent(ScriptLine& line);
     void selectBlock(ScriptLine& line);
     void clickCell(ScriptLine& line);
+    void doubleClickCell(ScriptLine& line);
+    void paste(ScriptLine& line);
+    void copy(ScriptLine& line);
+    void undo(ScriptLine& line);
+    void redo(ScriptLine& line);
     void pressKey(ScriptLine& line);
     void pressInsert(ScriptLine& line);
     void selectPage(ScriptLine& line);
@@ -71,12 +79,19 @@ class ScriptPlayer {
     void closeWindow(ScriptLine& line);
 
     void settleQuietly(const ScriptSettings& settings);
-    Form& front();
+    void makeLauncher();
+    Form& inUse();
     Control& control(ScriptLine& line);
+    struct Cell {
+        DataGrid& grid;
+        int row, col;
+    };
+    Cell cell(ScriptLine& line);
     template <class T>
     T& controlOf(ScriptLine& line, const char* kind);
     template <class T>
     T& onlyOne(const char* kind);
+    Container& tabControl();
     bool refuses(const Control& control);
 
     std::ostream& out_;
@@ -84,7 +99,7 @@ class ScriptPlayer {
     Platform parts_;
     Suite suite_;
     SvgWriter svgWriter_;
-    std::unique_ptr<Launcher> launcher_;
+    Launcher* launcher_ = nullptr; ///< The suite's windows own it.
     bool launched_ = false;
     Form* owner_ = nullptr; ///< The window of the control that was named last.
 };

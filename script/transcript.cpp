@@ -27,9 +27,8 @@ std::string colourText(int colour) {
 }
 
 std::string isSelected(const Control& control) {
-    const auto* option = dynamic_cast<const Option*>(&control);
-    const auto* box = dynamic_cast<const CheckBox*>(&control);
-    return (option != nullptr && option->selected) || (box != nullptr && box->selected) ? " selected" : "";
+    const auto* choice = dynamic_cast<const Choice*>(&control);
+    return choice != nullptr && choice->selected ? " selected" : "";
 }
 
 struct OperationText {
@@ -75,7 +74,7 @@ std::string inQuotes(std::string_view text) {
 
 std::string stateLine(const Control& control) {
     return control.name + ": " + (control.shown() ? "visible" : "hidden") +
-           (control.enabled ? " enabled" : " disabled") + isSelected(control) + " " +
+           (control.enabled() ? " enabled" : " disabled") + isSelected(control) + " " +
            inQuotes(control.shownText());
 }
 

@@ -1,6 +1,8 @@
 #include "shell/column_arithmetic.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
@@ -16,15 +18,14 @@ std::optional<Action> actionFor(const std::string& answer) {
     return static_cast<Action>(answer[0] - '0');
 }
 
-bool mayCompute(Suite& suite, const DataGrid& grid, const ArithmeticWording& wording,
-                const std::function<bool(int)>& holdsNumbers) {
+bool mayCompute(Suite& suite, const DataGrid& grid, const ArithmeticWording& wording) {
     if (wording.highlighted) return suite.asksYes(wording.highlighted->text, wording.highlighted->title);
     const CellBlock& block = grid.selection();
     if (block.startCol != block.endCol) {
         suite.messageBx(wording.oneColumn.text, wording.oneColumn.title);
         return false;
     }
-    if (!holdsNumbers(block.startCol)) {
+    if (!grid.numeric(block.startCol)) {
         suite.messageBx(wording.notApplicable.text, wording.notApplicable.title);
         return false;
     }
@@ -35,7 +36,7 @@ void reportSum(Suite& suite, const DataGrid& grid, const ArithmeticWording& word
     double total = 0;
     for (int row = firstRow; row <= grid.selection().endRow; ++row)
         total = finite(total + val(grid.cell(row, grid.col())));
-    suite.messageBx("The sum is: " + str(total), wording.module);
+    suite.messageBx("The sum is: " + str(total), wording.sumTitle);
 }
 
 std::string askValue(Suite& suite, Action action, const ArithmeticWording& wording) {
@@ -56,17 +57,8 @@ std::string changed(const std::string& text, Action action, const std::string& v
 
 } // namespace
 
-ArithmeticWording ArithmeticWording::usual(const std::string& module) {
-    ArithmeticWording wording;
-    wording.module = module;
-    wording.oneColumn = {"Highlight only one column.", module};
-    wording.notApplicable = {"Column arithmetic does not apply to this column.", module};
-    return wording;
-}
-
-void columnArithmetic(Suite& suite, DataGrid& grid, const ArithmeticWording& wording,
-                      const std::function<bool(int col)>& holdsNumbers) {
-    if (!mayCompute(suite, grid, wording, holdsNumbers)) return;
+void columnArithmetic(Suite& suite, DataGrid& grid, const ArithmeticWording& wording) {
+    if (!mayCompute(suite, grid, wording)) return;
     const std::string answer =
         suite.inputBx("Select the number of the appropriate action:\r\n(1) Sum\r\n(2) Add\r\n"
                       "(3) Multiply\r\n(4) Exponentiate\r\n(5) Replace",
@@ -77,8 +69,12 @@ void columnArithmetic(Suite& suite, DataGrid& grid, const ArithmeticWording& wor
     if (*action == Action::Sum) return reportSum(suite, grid, wording, firstRow);
     const std::string value = askValue(suite, *action, wording);
     if (value.empty()) return;
+    // All texts are computed before the first cell changes: a value that can't be leaves the column whole.
+    std::vector<std::string> texts;
     for (int row = firstRow; row <= grid.selection().endRow; ++row)
-        grid.setCell(row, grid.col(), changed(grid.cell(row, grid.col()), *action, value));
+        texts.push_back(changed(grid.cell(row, grid.col()), *action, value));
+    int row = firstRow;
+    for (std::string& text : texts) grid.setCell(row++, grid.col(), std::move(text));
 }
 
 } // namespace vantore

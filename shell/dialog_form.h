@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "shell/forms/form.h"
@@ -53,12 +54,12 @@ class MsgeBx : public DialogForm {
     void moveDown(double excess) override;
 };
 
-/// `YNBx`: a question. Closed by its title bar it counts as No.
+/// `YNBx`: a question. Closed by its title bar or Escape it has no answer.
 class YNBx : public DialogForm {
   public:
     YNBx(Scale scale, const std::string& prompt, const std::string& title, double fontSize);
 
-    int reply = replyNo;
+    std::optional<int> reply;
     Button& cmdYes = add<Button>("cmdYes");
     Button& cmdNo = add<Button>("cmdNo");
 

@@ -7,6 +7,8 @@
 #include "shell/base/runtime_error.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
+#include "shell/folder_screen.h"
+#include "shell/setup_screen.h"
 
 namespace vantore {
 
@@ -14,7 +16,6 @@ namespace {
 
 constexpr Rect moduleButtonSize{0, 0, 1572, 492};
 constexpr double narrowestScreen = 800; // pixels
-constexpr double lowestScreen = 600;
 
 struct ModuleButton {
     const char* name;
@@ -69,7 +70,7 @@ bool canWriteTo(const std::filesystem::path& folder) {
 
 } // namespace
 
-Launcher::Launcher(Suite& suite) : Form("frmVantore", suite.scale()), suite_(suite) {
+Launcher::Launcher(Suite& suite) : SuiteWindow(suite, "frmVantore") {
     caption = "VANTORE";
     fillScreen();
     addTitle();
@@ -78,7 +79,7 @@ Launcher::Launcher(Suite& suite) : Form("frmVantore", suite.scale()), suite_(sui
 }
 
 void Launcher::fillScreen() {
-    const Extent screen = suite_.platform.display.screen();
+    const Extent screen = suite().platform.display.screen();
     width = screen.width / scale().x;
     height = screen.height / scale().y;
 }
@@ -105,12 +106,15 @@ void Launcher::addModuleButtons() {
             add<Button>(row.name, Rect{row.left, row.top, moduleButtonSize.width, moduleButtonSize.height});
         button.caption = row.caption;
         button.tip = row.tip;
-        const auto& modules = suite_.modules();
+        const auto& modules = suite().modules();
         const auto entry = std::find_if(modules.begin(), modules.end(), [&](const ModuleEntry& module) {
             return module.caption == row.caption;
         });
-        button.enabled = entry != modules.end();
-        if (button.enabled) button.onPress = [this, entry] { openModule(*entry); };
+        if (entry != modules.end()) {
+            button.onPress = [this, entry] { openModule(*entry); };
+        } else {
+            button.usable = [] { return false; };
+        }
     }
 }
 
@@ -127,8 +131,12 @@ void Launcher::addCommands() {
     command("cmdHelp", "&Help", 6240, 732, "Sources for additional information")->onPress = [this] {
         showHelp();
     };
-    command("cmdDir", "&Folder", 7080, 972, "Selects folder for data files")->enabled = false;
-    command("cmdScreen", "&Screen", 8160, 972, "Sets display resolution for graphics")->enabled = false;
+    command("cmdDir", "&Folder", 7080, 972, "Selects folder for data files")->onPress = [this] {
+        openFolderScreen(suite());
+    };
+    command("cmdScreen", "&Screen", 8160, 972, "Sets display resolution for graphics")->onPress = [this] {
+        setUpAgain();
+    };
     command("cmdExit", "E&xit", 9240, 732, "Exit Vantore")->onPress = [this] { exit(); };
 }
 
@@ -139,66 +147,73 @@ Button* Launcher::moduleButton(std::string_view moduleCaption) const {
 }
 
 void Launcher::openModule(const ModuleEntry& entry) {
-    enabled = false;
-    module_ = entry.create(suite_);
+    suite().windows.open(entry.create(suite()));
 }
 
-void Launcher::unloadClosedModule() {
-    if (!module_ || !module_->closed) return;
-    module_.reset();
-    enabled = true;
-    visible = true;
+void Launcher::setUpAgain() {
+    suite().setupDone = 0;
+    writeDriverFile(suite().drvFile(), suite().driverSettings());
+    openSetupScreen(suite());
 }
+
+// The start
 
 void Launcher::load() {
-    suite_.installDrive.fill(0);
-    suite_.ioFolder.clear();
-    suite_.screenWidth = suite_.screenHeight = suite_.setupDone = 0;
+    suite().installDrive.fill(0);
+    suite().ioFolder.clear();
+    suite().screenWidth = suite().screenHeight = suite().setupDone = 0;
+    suite().scaleX = suite().scaleY = 1;
     std::error_code ignored;
-    std::filesystem::current_path(pathOf(suite_.installFolder), ignored);
+    std::filesystem::current_path(pathOf(suite().installFolder), ignored);
     const Attempt attempt = readDriverFile();
     if (attempt == Attempt::NoFolder) {
-        suite_.messageBx(
+        suite().messageBx(
             "Drives A through M are not available to accept output.  Make at least one of them accessible.",
             "VANTORE");
         return exit();
     }
     if (attempt == Attempt::FirstRun)
-        suite_.messageBx(
+        suite().messageBx(
             "The default path for data files and solution results has been set to the installed directory "
             "for VANTORE, or " +
-                suite_.installFolder +
+                suite().installFolder +
                 ".  To change it, press the Folder button on the next (Initialization) screen.",
             "VANTORE");
     markInstallDrive();
     settleScale();
+    if (suite().setupDone == 0) openSetupScreen(suite());
 }
 
 DriverSettings Launcher::defaultSettings() const {
-    return {.ioFolder = suite_.installFolder + "/"};
+    return {.ioFolder = suite().installFolder + "/"};
 }
 
 Launcher::Attempt Launcher::readDriverFile() {
-    if (!canWriteTo(pathOf(suite_.installFolder))) return Attempt::NoFolder;
+    if (!canWriteTo(pathOf(suite().installFolder))) return Attempt::NoFolder;
     try {
-        return readSettings(DriverReader(suite_.drvFile()));
+        return readSettings(DriverReader(suite().drvFile()));
     } catch (const RuntimeError& error) {
-        if (error.number() != ErrorNumber::FileNotFound && error.number() != ErrorNumber::InputPastEnd) {
-            if (isBadFolder(error.number())) return Attempt::NoFolder;
-            suite_.messageBx(error.what(), "Error");
-            return Attempt::Read;
-        }
-        // A missing or short file gives way to the default file. Only the short one is read again.
-        try {
-            writeDriverFile(suite_.drvFile(), defaultSettings());
-            if (error.number() == ErrorNumber::FileNotFound) return Attempt::FirstRun;
-            return readSettings(DriverReader(suite_.drvFile()));
-        } catch (const RuntimeError& failure) {
-            if (isBadFolder(failure.number())) return Attempt::NoFolder;
-            suite_.messageBx(failure.what(), "Error");
-            return Attempt::Read;
-        }
+        const bool missing = error.number() == ErrorNumber::FileNotFound;
+        const bool cutShort = error.number() == ErrorNumber::InputPastEnd;
+        return missing || cutShort ? replaceDriverFile(error.number()) : attemptAfter(error);
     }
+}
+
+/// A missing or short file gives way to the default file. Only the short one is read again.
+Launcher::Attempt Launcher::replaceDriverFile(ErrorNumber reason) {
+    try {
+        writeDriverFile(suite().drvFile(), defaultSettings());
+        if (reason == ErrorNumber::FileNotFound) return Attempt::FirstRun;
+        return readSettings(DriverReader(suite().drvFile()));
+    } catch (const RuntimeError& error) {
+        return attemptAfter(error);
+    }
+}
+
+Launcher::Attempt Launcher::attemptAfter(const RuntimeError& error) {
+    if (isBadFolder(error.number())) return Attempt::NoFolder;
+    suite().messageBx(error.what(), "Error");
+    return Attempt::Read;
 }
 
 Launcher::Attempt Launcher::readSettings(DriverReader reader) {
@@ -208,41 +223,43 @@ Launcher::Attempt Launcher::readSettings(DriverReader reader) {
             target = read();
         } catch (const RuntimeError& error) {
             if (error.number() == ErrorNumber::InputPastEnd) throw;
-            suite_.messageBx(error.what(), "Error");
+            suite().messageBx(error.what(), "Error");
         }
     };
-    trapped(suite_.ioFolder, [&] { return reader.readFolder(); });
-    trapped(suite_.screenWidth, [&] { return reader.readNumber(); });
-    trapped(suite_.screenHeight, [&] { return reader.readNumber(); });
-    trapped(suite_.setupDone, [&] { return reader.readNumber(); });
-    txtDir_->caption = "Input/output folder: " + suite_.ioFolder;
+    trapped(suite().ioFolder, [&] { return reader.readFolder(); });
+    trapped(suite().screenWidth, [&] { return reader.readNumber(); });
+    trapped(suite().screenHeight, [&] { return reader.readNumber(); });
+    trapped(suite().setupDone, [&] { return reader.readNumber(); });
+    showFolder();
     return Attempt::Read;
 }
 
+void Launcher::showFolder() {
+    txtDir_->caption = "Input/output folder: " + suite().ioFolder;
+}
+
 void Launcher::markInstallDrive() {
-    const std::string letter = upperCase(left(suite_.installFolder, 1));
+    const std::string letter = upperCase(left(suite().installFolder, 1));
     if (letter.size() == 1 && letter[0] >= 'A' && letter[0] <= 'M')
-        suite_.installDrive.at(static_cast<std::size_t>(letter[0] - 'A')) = 1;
+        suite().installDrive.at(static_cast<std::size_t>(letter[0] - 'A')) = 1;
 }
 
 void Launcher::settleScale() {
-    if (suite_.setupDone == 0 && suite_.screenWidth < narrowestScreen) {
-        suite_.messageBx(
+    if (suite().setupDone == 0 && suite().screenWidth < narrowestScreen) {
+        suite().messageBx(
             "A screen resolution less than 800x600 has been set.  Reset it by clicking the Screen button.",
             "VANTORE");
-        suite_.screenSetting = "NO SETTING";
+        suite().screenSetting = "NO SETTING";
     } else {
-        suite_.screenSetting = defaultText(suite_.screenWidth) + "x" + defaultText(suite_.screenHeight);
-        // A width or height of 0 would leave nothing to see; the design's size is kept then.
-        if (suite_.screenWidth > 0) suite_.scaleX = suite_.screenWidth / narrowestScreen;
-        if (suite_.screenHeight > 0) suite_.scaleY = suite_.screenHeight / lowestScreen;
+        suite().screenSetting = defaultText(suite().screenWidth) + "x" + defaultText(suite().screenHeight);
+        suite().setScale(suite().screenWidth, suite().screenHeight);
     }
-    setScale(suite_.scale());
+    setScale(suite().scale());
     fillScreen();
 }
 
 void Launcher::showHelp() {
-    suite_.messageBx(
+    suite().messageBx(
         "The modules are described in the user's manual, Vantore.Doc and Vantore.Pdf, in the folder where "
         "VANTORE is installed.  A file called README in the same folder, if present, contains late changes "
         "and other information.  Address technical problems to the maintainers named in README.",
@@ -251,7 +268,7 @@ void Launcher::showHelp() {
 
 void Launcher::exit() {
     try {
-        suite_.platform.clipboard.clear();
+        suite().platform.clipboard.clear();
     } catch (const std::exception&) {
         // The program ends all the same.
     }

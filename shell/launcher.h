@@ -1,35 +1,32 @@
 #pragma once
 
-#include <memory>
-#include <string>
+#include <string_view>
 
 #include "shell/base/driver_file.h"
-#include "shell/forms/form.h"
-#include "shell/module_frame.h"
-#include "shell/suite.h"
+#include "shell/suite_window.h"
 
 namespace vantore {
 
 /// `frmVantore`, the first window of the suite: it settles the folder and the scale factors from
-/// VANTORE.DRV and opens the modules, one at a time, each from its button.
-class Launcher : public Form {
+/// VANTORE.DRV and opens the modules, one at a time, each from its button, and the two screens.
+class Launcher : public SuiteWindow {
   public:
     explicit Launcher(Suite& suite);
 
-    /// The start of the program: reads VANTORE.DRV, asks and reports what it must.
-    /// When it can't go on, `closed` is set.
+    /// The start of the program: reads VANTORE.DRV, asks and reports what it must, and opens the set-up
+    /// screen where it is due. When it can't go on, `closed` is set.
     void load();
-
-    /// The open module, nullptr when there is none.
-    ModuleFrame* module() const { return module_.get(); }
 
     /// The module button with that caption, nullptr when there is none.
     Button* moduleButton(std::string_view moduleCaption) const;
 
-    /// Unloads a module that has closed, and comes to the front again. Called after each of a user's steps.
-    void unloadClosedModule();
-
     void close() override { exit(); }
+
+    /// A screen may have chosen another folder.
+    void uncovered() override { showFolder(); }
+
+  protected:
+    std::string errorTitle() const override { return "VANTORE"; }
 
   private:
     enum class Attempt { Read, NoFolder, FirstRun };
@@ -40,15 +37,17 @@ class Launcher : public Form {
     void addCommands();
     void openModule(const ModuleEntry& entry);
     Attempt readDriverFile();
+    Attempt replaceDriverFile(ErrorNumber reason);
+    Attempt attemptAfter(const RuntimeError& error);
     Attempt readSettings(DriverReader reader);
+    void showFolder();
     void markInstallDrive();
     void settleScale();
     void showHelp();
+    void setUpAgain();
     void exit();
     DriverSettings defaultSettings() const;
 
-    Suite& suite_;
-    std::unique_ptr<ModuleFrame> module_;
     Label* txtDir_ = nullptr;
 };
 

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <chrono>
-#include <exception>
-#include <optional>
 #include <utility>
 
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "shell/capture.h"
+#include "shell/printing.h"
 
 namespace vantore {
 
@@ -22,11 +21,8 @@ constexpr double buttonRowStep = 350;
 constexpr double buttonHeight = 320;
 constexpr Rect reportPlace{120, 120, 9255, 6135};
 constexpr double startLabelHeight = 600;
-
-const Font printedTitleFont{"Arial", 12, false};
-const Font printedBodyFont{"Courier New", 10, false};
-const Font printedDataTitleFont{"Arial", 14, false};
-const Font printedDataFont{"Courier New", 12, false};
+constexpr double captionDrop = 30; // of a caption beside its box
+constexpr double captionGap = 60;
 
 std::string elapsedText(std::chrono::steady_clock::duration elapsed) {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(elapsed).count();
@@ -34,20 +30,22 @@ std::string elapsedText(std::chrono::steady_clock::duration elapsed) {
     return std::to_string(seconds / 60) + (rest.size() < 2 ? ":0" : ":") + rest;
 }
 
-} // namespace
-
-ModuleFrame::ModuleFrame(Suite& suite, ModuleNames names)
-    : Form(names.name, suite.scale()), suite_(suite), names_(std::move(names)) {
-    caption = names_.name;
-    rowTitles.module = exitTitle = names_.name;
-    arithmetic = ArithmeticWording::usual(names_.name);
-    printQuestion = {
-        "Select YES to print.  Alternately, choose NO to copy image to the clipboard. Then, paste the "
-        "clipboard image to another program such as WORD or POWERPOINT and print.",
-        names_.name, true};
+bool isOutcome(View view) {
+    return view != View::Start && view != View::Data;
 }
 
-// Controls and views
+std::string withoutPrefix(const std::string& boxName) {
+    return boxName.starts_with("txt") ? boxName.substr(3) : boxName;
+}
+
+} // namespace
+
+ModuleFrame::ModuleFrame(Suite& suite, const ModuleWording& wording)
+    : SuiteWindow(suite, wording.name), wording_(wording.completed()) {
+    caption = wording_.windowTitle;
+}
+
+// Controls
 
 Rect ModuleFrame::buttonPlace(int row, int column) {
     return {buttonLeft + column * buttonStep, buttonTop + row * buttonRowStep, buttonWidth, buttonHeight};
@@ -58,13 +56,16 @@ Button& ModuleFrame::addButton(const std::string& name, const std::string& butto
     auto& button = add<Button>(name, place);
     button.caption = buttonCaption;
     button.onPress = std::move(onPress);
-    seenIn(button, views);
+    seenIn(button, views).when([this, &button] {
+        return solver_ == nullptr &&
+               std::find(offPaper_.begin(), offPaper_.end(), &button) == offPaper_.end();
+    });
     return button;
 }
 
 TextBox& ModuleFrame::addTextBox(const std::string& name, Rect place, const std::string& text) {
     auto& box = add<TextBox>(name, place);
-    box.setText(text);
+    box.show(text);
     seenIn(box, {View::Start, View::Data});
     enabledByOpen(box);
     return box;
@@ -78,29 +79,111 @@ Label& ModuleFrame::addLabel(const std::string& name, const std::string& text, R
     return label;
 }
 
-DataGrid& ModuleFrame::addMainGrid(const std::string& name, Rect place, int rowLimit) {
+TextBox& ModuleFrame::addField(FieldColumn& column, const std::string& name, const std::string& text) {
+    const double top = column.top;
+    column.top += column.step;
+    auto& label =
+        addLabel("lbl" + withoutPrefix(name), text,
+                 {column.left, top + captionDrop, column.captionWidth, column.boxHeight - captionDrop},
+                 {View::Start, View::Data});
+    auto& box = addTextBox(
+        name, {column.left + column.captionWidth + captionGap, top, column.boxWidth, column.boxHeight});
+    label.buddy = &box;
+    label.container = box.container = column.container;
+    label.page = box.page = column.page;
+    return box;
+}
+
+Container& ModuleFrame::addContainer(const std::string& name, const std::string& text, Rect place,
+                                     std::initializer_list<View> views) {
+    auto& container = add<Container>(name, place);
+    container.caption = text;
+    seenIn(container, views);
+    return container;
+}
+
+Option& ModuleFrame::addOption(const std::string& name, const std::string& text, Rect place,
+                               const Container& group, int page) {
+    auto& option = add<Option>(name, place);
+    option.caption = text;
+    option.container = &group;
+    option.page = page;
+    enabledByOpen(option);
+    return option;
+}
+
+DataGrid& ModuleFrame::addGrid(const std::string& name, Rect place, std::initializer_list<View> views) {
     auto& grid = add<DataGrid>(name, place);
-    grid.rowLimit = rowLimit;
-    grid.growsByRows = true;
-    grid.onKey = [this, &grid](int code) { gridKeyPress(suite_, grid, code); };
-    grid.onInsertKey = [this, &grid] { insertKeyRow(suite_, grid, rowTitles); };
-    seenIn(grid, {View::Data});
-    mainGrid_ = &grid;
+    seenIn(grid, views);
+    refusePasteBeyond(suite(), grid, wording_.name);
+    grids_.push_back(&grid);
     return grid;
+}
+
+GridRows& ModuleFrame::addRowGrid(const std::string& name, Rect place, int limit) {
+    return addRowGrid(name, place, limit, wording_.rows);
+}
+
+GridRows& ModuleFrame::addRowGrid(const std::string& name, Rect place, int limit, const RowTitles& titles) {
+    return *rows_.emplace_back(std::make_unique<GridRows>(suite(), addGrid(name, place), limit, titles));
+}
+
+SizeBox& ModuleFrame::addSizeBox(TextBox& box, std::vector<DataGrid*> grids, SizeRules rules) {
+    return *sizeBoxes_.emplace_back(std::make_unique<SizeBox>(box, std::move(grids), std::move(rules)));
+}
+
+SizeBox& ModuleFrame::addRowCountBox(TextBox& box, GridRows& rows, std::function<void()> onExcess) {
+    auto& sizeBox = addSizeBox(box, {&rows.grid()},
+                               {.most = rows.limit(),
+                                .present = [&rows] { return rows.grid().rowCount(); },
+                                .shape = [&rows](int count) { rows.setCount(count); },
+                                .onExcess = std::move(onExcess)});
+    rows.onCount = [&sizeBox] { sizeBox.settle(); };
+    return sizeBox;
 }
 
 void ModuleFrame::addStart(const std::string& openButton, Rect place) {
     auto& picture =
         add<Picture>("Image1", Rect{place.left, place.top, place.width, place.height - startLabelHeight});
-    picture.image = names_.name;
+    picture.image = wording_.name;
     seenIn(picture, {View::Start});
     auto& label = addLabel(
         "lblStart",
-        "Open a file to begin processing. Look for example files in the directory " + suite_.installFolder,
+        "Open a file to begin processing. Look for example files in the directory " + suite().installFolder,
         {place.left, place.bottom() - startLabelHeight, place.width, startLabelHeight}, {View::Start});
     label.alignment = Alignment::Centre;
     cmdOpen = &addButton(openButton, "&Start", buttonPlace(0, 0), {View::Start, View::Data},
                          [this] { openProblem(); });
+}
+
+void ModuleFrame::addDataButtons(const DataButtons& buttons) {
+    const auto data = {View::Data};
+    cmdSave = &addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), data, [this] { saveProblem(); });
+    cmdSolve = &addButton("cmdSolve", "&Solve", buttonPlace(0, 2), data, [this] { solve(); });
+    if (!buttons.printData.empty())
+        addButton(buttons.printData, "P&rint data", buttonPlace(0, 3), data, [this] { printData(); });
+    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
+                         [this] { exitModule(); });
+    if (buttons.rows) {
+        addButton("cmdAdd", "&Add row", buttonPlace(1, 0), data, [this] { addRow(); });
+        addButton("cmdDelete", "&Delete row", buttonPlace(1, 1), data, [this] { deleteRow(); });
+    }
+    if (!buttons.arithmetic.empty())
+        addButton(buttons.arithmetic, "Colu&mn Arithmetic", buttons.arithmeticPlace, data,
+                  [this] { computeColumn(); });
+    addButton("cmdExcel", "&Excel edit", buttons.excelPlace, data, [this] { excelEdit(); });
+}
+
+void ModuleFrame::addOutcomeButtons(std::initializer_list<View> views, const std::string& printReportName) {
+    cmdContinue =
+        &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), views, [this] { continueToData(); });
+    cmdPrintReport =
+        &addButton(printReportName, "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReport(); });
+}
+
+void ModuleFrame::addPrintPlot() {
+    cmdPrintPlot =
+        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
 }
 
 ReportScreen& ModuleFrame::addReport(const std::string& name) {
@@ -109,98 +192,140 @@ ReportScreen& ModuleFrame::addReport(const std::string& name) {
     return *report;
 }
 
-void ModuleFrame::seenIn(Control& control, std::initializer_list<View> views) {
-    std::erase_if(seen_, [&](const Seen& seen) { return seen.control == &control; });
-    seen_.push_back({&control, views});
-    control.visible = std::find(views.begin(), views.end(), view_) != views.end();
+// Views
+
+void ModuleFrame::Seen::when(std::function<bool()> condition) const {
+    control_.seen = [before = std::move(control_.seen), condition = std::move(condition)] {
+        return before() && condition();
+    };
+}
+
+ModuleFrame::Seen ModuleFrame::seenIn(Control& control, std::initializer_list<View> views) {
+    control.seen = [this, views = std::vector<View>(views)] {
+        return std::find(views.begin(), views.end(), view_) != views.end();
+    };
+    return Seen(control);
 }
 
 void ModuleFrame::enabledByOpen(Control& control) {
-    enabledByOpen_.push_back(&control);
-    control.enabled = view_ != View::Start;
+    control.usable = [this] { return opened(); };
 }
 
 void ModuleFrame::showView(View view) {
     view_ = view;
-    for (const Seen& seen : seen_)
-        seen.control->visible = std::find(seen.views.begin(), seen.views.end(), view) != seen.views.end();
-    const bool outcome = view != View::Start && view != View::Data;
-    if (outcome && cmdContinue != nullptr) focus = cmdContinue;
-    if (view == View::Data && mainGrid_ != nullptr) focus = mainGrid_;
+    if (isOutcome(view) && cmdContinue != nullptr) focus = cmdContinue;
+    if (view == View::Data) focus = activeGrid();
+}
+
+// The grid in use
+
+DataGrid* ModuleFrame::activeGrid() const {
+    if (lastGrid_ != nullptr && lastGrid_->shown()) return lastGrid_;
+    const auto shown =
+        std::find_if(grids_.begin(), grids_.end(), [](DataGrid* grid) { return grid->shown(); });
+    return shown == grids_.end() ? nullptr : *shown;
+}
+
+GridRows* ModuleFrame::activeRows() const {
+    const DataGrid* grid = activeGrid();
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [grid](const auto& rows) { return &rows->grid() == grid; });
+    return found == rows_.end() ? nullptr : found->get();
+}
+
+void ModuleFrame::addRow() {
+    if (GridRows* rows = activeRows()) rows->add();
+    focus = activeGrid();
+}
+
+void ModuleFrame::deleteRow() {
+    const Busy busy(suite());
+    if (GridRows* rows = activeRows()) rows->remove();
+    focus = activeGrid();
+}
+
+void ModuleFrame::computeColumn() {
+    DataGrid* grid = activeGrid();
+    if (grid == nullptr) return;
+    columnArithmetic(suite(), *grid, wording_.arithmetic);
+    if (grid->onEdit) grid->onEdit();
+    focus = grid;
 }
 
 void ModuleFrame::run(const Control& control, const std::function<void()>& handler) {
-    if (!handler) return;
-    const auto place = errorPlaces_.find(&control);
-    const std::string literal = place != errorPlaces_.end()
-                                    ? place->second
-                                    : " occurred in " + names_.name + ", " + control.name + ".";
-    try {
-        handler();
-    } catch (const PlatformFailure&) {
-        throw;
-    } catch (const std::bad_alloc&) {
-        reportRuntimeError("Out of memory", literal);
-    } catch (const std::exception& error) {
-        reportRuntimeError(error.what(), literal);
-    }
+    forgetTyping(&control);
+    const auto used = std::find(grids_.begin(), grids_.end(), &control);
+    if (used != grids_.end()) lastGrid_ = *used;
+    SuiteWindow::run(control, handler);
 }
 
-void ModuleFrame::reportRuntimeError(const std::string& errorText, const std::string& place) {
-    suite_.messageBx(errorText + place, names_.name);
-    const bool outcome = view_ != View::Start && view_ != View::Data;
-    if (outcome && cmdContinue != nullptr) cmdContinue->visible = true;
+std::string ModuleFrame::errorPlace(const Control& control) const {
+    const auto place = errorPlaces_.find(&control);
+    return place != errorPlaces_.end() ? place->second : SuiteWindow::errorPlace(control);
+}
+
+/// The typing of a size is over, but for the box that is being typed in.
+void ModuleFrame::forgetTyping(const Control* except) {
+    for (const auto& sizeBox : sizeBoxes_)
+        if (&sizeBox->box() != except) sizeBox->forget();
+}
+
+void ModuleFrame::restored() {
+    forgetTyping();
+    for (const DataGrid* grid : grids_) {
+        if (grid->onMove) grid->onMove();
+        if (grid->onEdit) grid->onEdit();
+    }
 }
 
 // Files
 
 FileDialog ModuleFrame::fileDialog(FileDialog::Kind kind) const {
     const bool saves = kind == FileDialog::Kind::Save;
-    return {kind, saves ? names_.saveTitle : names_.openTitle, suite_.ioFolder,
-            saves && !names_.saveFilter.empty() ? names_.saveFilter : names_.filter};
+    return {.kind = kind,
+            .title = saves ? wording_.saveTitle : wording_.openTitle,
+            .folder = suite().ioFolder,
+            .filter = saves ? wording_.saveFilter : wording_.filter,
+            .name = saves ? currentFile_ : ""};
 }
 
 void ModuleFrame::setCurrentFile(const std::string& path) {
     currentFile_ = trimmedRight(path);
-    caption = names_.name + " - " + currentFile_;
+    caption = wording_.name + " - " + currentFile_;
 }
 
-std::string ModuleFrame::readOrCreate() {
+std::string ModuleFrame::readOrCreate() const {
     try {
         return readTextFile(pathOf(currentFile_));
     } catch (const RuntimeError& error) {
         if (error.number() != ErrorNumber::FileNotFound) throw;
     }
     replaceFile(pathOf(currentFile_), defaultSkeleton());
+    suite().platform.dialogs.failed(currentFile_ + " had to be made new");
     return readTextFile(pathOf(currentFile_));
 }
 
 void ModuleFrame::openProblem() {
     const std::optional<std::string> path =
-        suite_.platform.dialogs.chooseFile(fileDialog(FileDialog::Kind::Open));
-    if (!path) {
-        cmdOpen->visible = true;
-        if (cmdExit != nullptr) cmdExit->visible = true;
-        return;
-    }
+        suite().platform.dialogs.chooseFile(fileDialog(FileDialog::Kind::Open));
+    if (!path) return;
     setCurrentFile(*path);
-    const Busy busy(suite_);
+    const Busy busy(suite());
     ItemReader reader(readOrCreate());
     showView(View::Data);
-    for (Control* control : enabledByOpen_) control->enabled = true;
     cmdOpen->caption = "&Open file";
-    history().clear();
+    forgetHistory();
+    forgetTyping();
     readProblem(reader);
-    history().clear();
 }
 
 std::optional<std::string> ModuleFrame::chooseSaveName() {
     while (true) {
-        const auto path = suite_.platform.dialogs.chooseFile(fileDialog(FileDialog::Kind::Save));
+        const auto path = suite().platform.dialogs.chooseFile(fileDialog(FileDialog::Kind::Save));
         if (!path) return std::nullopt;
         const std::string bareName = upperCase(trimmed(textOf(pathOf(*path).filename())));
-        if (!bareName.starts_with(names_.filePrefix)) {
-            message("Use the prefix " + names_.filePrefix + " on the file name.");
+        if (!bareName.starts_with(wording_.filePrefix)) {
+            message("Use the prefix " + wording_.filePrefix + " on the file name.");
         } else if (mayBeSavedAs(bareName)) {
             return trimmedRight(*path);
         }
@@ -210,7 +335,7 @@ std::optional<std::string> ModuleFrame::chooseSaveName() {
 bool ModuleFrame::saveProblem() {
     const std::optional<std::string> path = chooseSaveName();
     if (!path || !mayBeWritten()) return false;
-    const Busy busy(suite_);
+    const Busy busy(suite());
     fillBlankCells();
     ItemWriter writer;
     writeProblem(writer);
@@ -220,60 +345,49 @@ bool ModuleFrame::saveProblem() {
 }
 
 void ModuleFrame::fillBlankCells() {
-    if (mainGrid_ != nullptr) fillBlanks(*mainGrid_);
+    for (const auto& rows : rows_) fillBlanks(rows->grid());
 }
 
 void ModuleFrame::exitModule() {
     // A Save that is cancelled or fails leaves the window open: nothing that was typed is lost.
-    if (!currentFile_.empty() && suite_.asksYes("Save data?", exitTitle) && !saveProblem()) return;
-    suite_.platform.display.setBusyPointer(false);
-    closing_ = true;
+    if (!currentFile_.empty() && suite().asksYes("Save data?", wording_.exitTitle) && !saveProblem()) return;
+    suite().platform.display.setBusyPointer(false);
     closed = true;
 }
 
 void ModuleFrame::close() {
     if (solver_) return interrupt();
-    if (!closing_ && cmdExit != nullptr) run(*cmdExit, [this] { exitModule(); });
+    if (cmdExit != nullptr) run(*cmdExit, [this] { exitModule(); });
 }
 
-void ModuleFrame::excelEdit(const std::string& boxTitle, const std::string& templateName) {
-    message("In EXCEL, open the template file " + templateName + " in folder where VANTORE is installed.",
-            boxTitle);
-    if (!suite_.platform.programs.startSpreadsheet())
-        message("No spreadsheet program was found.  Install one, for example LibreOffice Calc.", boxTitle);
+void ModuleFrame::excelEdit() {
+    const SpreadsheetWording& words = wording_.spreadsheet;
+    message("In EXCEL, open the template file " + words.templateName +
+                " in folder where VANTORE is installed.",
+            words.title);
+    if (!suite().platform.programs.startSpreadsheet())
+        message("No spreadsheet program was found.  Install one, for example LibreOffice Calc.", words.title);
 }
 
-void ModuleFrame::addRow() {
-    if (mainGrid_ == nullptr) return;
-    history().clear();
-    addGridRow(suite_, *mainGrid_, rowTitles);
-}
-
-void ModuleFrame::deleteRow() {
-    if (mainGrid_ == nullptr) return;
-    history().clear();
-    const Busy busy(suite_);
-    deleteGridRow(suite_, *mainGrid_, rowTitles);
-}
-
-void ModuleFrame::continueToData() {
-    showView(View::Data);
+void ModuleFrame::backToData(const Message& fault) {
+    message(fault.text, fault.title.empty() ? wording_.name : fault.title);
+    continueToData();
 }
 
 // Reports and printing
 
 void ModuleFrame::writeReportFile(const PrintLines& page, const std::string& name) {
-    writeLines(suite_.ioPath(name), page.lines());
+    writeLines(suite().ioPath(name), page.lines());
 }
 
 void ModuleFrame::showReportFile(const ReportStyle& style, const std::string& name) {
-    showReportLines(readLines(suite_.ioPath(name)), style);
+    showReportLines(readLines(suite().ioPath(name)), style);
 }
 
 void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const ReportStyle& style) {
     showView(View::Report);
     report->clear();
-    const double scale = suite_.scaleX;
+    const double scale = suite().scaleX;
     bool first = true;
     for (const std::string& text : lines) {
         ReportLine line{text, first && !style.starredHeadings ? style.title : style.body, colour::black};
@@ -289,76 +403,57 @@ void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const R
     }
 }
 
-void ModuleFrame::printReportFile() {
-    printReportLines(readLines(suite_.ioPath("OUTPUT.DAT")));
+void ModuleFrame::printReport() {
+    printReportLines(readLines(suite().ioPath("OUTPUT.DAT")));
 }
 
 void ModuleFrame::printReportLines(const std::vector<std::string>& lines) {
-    PrintJob job{.title = names_.name};
-    bool first = true;
-    for (const std::string& line : lines) {
-        job.print(line, first ? printedTitleFont : printedBodyFont);
-        first = false;
-    }
-    print(job);
-}
-
-PrintJob ModuleFrame::dataPrint(const std::string& title) const {
-    PrintJob job{.title = names_.name};
-    job.print("", printedDataFont);
-    job.print(title, printedDataTitleFont);
-    job.print("", printedDataFont);
-    return job;
-}
-
-void ModuleFrame::printOn(PrintJob& job, const PrintLines& page) {
-    for (const std::string& line : page.lines()) job.print(line, printedDataFont);
+    print(reportJob(wording_.name, lines));
 }
 
 /// The window as it goes on paper: white and without these buttons. However the printing ends, the window is
 /// as before.
 class ModuleFrame::OnPaper {
   public:
-    OnPaper(ModuleFrame& frame, std::vector<Button*> buttons) : frame_(frame), buttons_(std::move(buttons)) {
-        show(false, colour::brightWhite);
+    OnPaper(ModuleFrame& frame, std::vector<const Control*> buttons) : frame_(frame) {
+        frame_.offPaper_ = std::move(buttons);
+        frame_.backColour = colour::brightWhite;
     }
-    ~OnPaper() { show(true, buttonFace); }
+    ~OnPaper() {
+        frame_.offPaper_.clear();
+        frame_.backColour = buttonFace;
+    }
     OnPaper(const OnPaper&) = delete;
     OnPaper& operator=(const OnPaper&) = delete;
 
   private:
-    void show(bool buttonsShown, int colour) {
-        for (Button* button : buttons_) button->visible = buttonsShown;
-        frame_.backColour = colour;
-    }
-
     ModuleFrame& frame_;
-    std::vector<Button*> buttons_;
 };
 
 void ModuleFrame::printWindow() {
     try {
-        PrintJob job{.title = names_.name};
-        printPictureToFitPage(job, suite_.platform.printer, captureClient(suite_.platform.display, *this));
+        PrintJob job{.title = wording_.name};
+        printPictureToFitPage(job, suite().platform.printer, captureClient(suite().platform.display, *this));
         print(job);
     } catch (const RuntimeError&) {
-        if (printFailure.empty()) throw;
-        message(printFailure);
+        if (wording_.printFailure.empty()) throw;
+        message(wording_.printFailure);
     }
 }
 
-void ModuleFrame::printWindowReport(Button& printButton) {
-    const OnPaper paper(*this, {cmdContinue, &printButton});
+void ModuleFrame::printWindowReport() {
+    const OnPaper paper(*this, {cmdContinue, cmdPrintReport});
     message("Printing...  Click OK to continue");
     printWindow();
 }
 
 void ModuleFrame::printPlotImage() {
-    suite_.platform.display.setBusyPointer(false);
+    suite().platform.display.setBusyPointer(false);
     const OnPaper paper(*this, {cmdContinue, cmdPrintPlot});
-    suite_.platform.clipboard.clear();
-    suite_.platform.clipboard.setPicture(captureClient(suite_.platform.display, *this));
-    if (suite_.asksYes(printQuestion.text, printQuestion.title) == printQuestion.yesPrints) printWindow();
+    suite().platform.clipboard.clear();
+    suite().platform.clipboard.setPicture(captureClient(suite().platform.display, *this));
+    const PrintQuestion& question = wording_.printQuestion;
+    if (suite().asksYes(question.text, question.title) == question.yesPrints) printWindow();
 }
 
 // Solvers
@@ -367,14 +462,8 @@ void ModuleFrame::printPlotImage() {
 /// as before, and no solver is left behind.
 class ModuleFrame::SolverRun {
   public:
-    explicit SolverRun(ModuleFrame& frame) : frame_(frame), busy_(frame.suite_) {
-        for (const auto& control : frame.controls())
-            if (auto* button = dynamic_cast<Button*>(control.get()); button != nullptr && button->visible)
-                hidden_.push_back(button);
-        for (Button* button : hidden_) button->visible = false;
-    }
+    explicit SolverRun(ModuleFrame& frame) : frame_(frame), busy_(frame.suite()) {}
     ~SolverRun() {
-        for (Button* button : hidden_) button->visible = true;
         frame_.runningNote.clear();
         frame_.solver_.reset();
     }
@@ -384,19 +473,18 @@ class ModuleFrame::SolverRun {
   private:
     ModuleFrame& frame_;
     Busy busy_;
-    std::vector<Button*> hidden_;
 };
 
 bool ModuleFrame::runSolver(const std::string& program) {
     const SolverRun run(*this);
-    solver_ = suite_.platform.programs.start(suite_.installPath(program), pathOf(suite_.installFolder),
-                                             {{"VANTORE_IO", suite_.ioFolder}});
+    solver_ = suite().platform.programs.start(suite().installPath(program), pathOf(suite().installFolder),
+                                              {{"VANTORE_IO", suite().ioFolder}});
     if (!solver_) return false;
     const auto started = std::chrono::steady_clock::now();
     while (solver_->running()) {
         runningNote = program + " is running, " + elapsedText(std::chrono::steady_clock::now() - started) +
                       ".  Press Ctrl+C to stop it with the best solution so far.";
-        suite_.platform.display.processEvents();
+        suite().platform.display.processEvents();
     }
     return true;
 }

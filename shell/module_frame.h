@@ -1,31 +1,26 @@
 #pragma once
 
-#include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "shell/base/item_stream.h"
+#include "shell/base/message.h"
 #include "shell/base/print_lines.h"
 #include "shell/base/runtime_error.h"
-#include "shell/column_arithmetic.h"
-#include "shell/forms/form.h"
+#include "shell/forms/print_job.h"
 #include "shell/grid_rows.h"
-#include "shell/suite.h"
+#include "shell/module_wording.h"
+#include "shell/size_box.h"
+#include "shell/suite_window.h"
 
 namespace vantore {
 
-/// The names under which a module meets its user.
-struct ModuleNames {
-    std::string name;       ///< "COG": titles of boxes, prefix of the window title
-    std::string filePrefix; ///< "COG": what a saved file's name begins with
-    std::string openTitle;
-    std::string saveTitle;
-    std::string filter;
-    std::string saveFilter; ///< empty where it is the same as `filter`
-};
+/// What a module's window shows. Result is what some modules show between the data and the report.
+enum class View { Start, Data, Result, Report, Plot };
 
 /// How a report file looks in the report box. Sizes are points of the design.
 struct ReportStyle {
@@ -36,16 +31,10 @@ struct ReportStyle {
 };
 
 /// The window of a module: the patterns that all modules share. A module adds its controls, tells in which
-/// view each is seen, and gives the frame its file's reader and writer.
-///
-/// Every handler runs through `run`, which reports a run-time error with the literal of the control that was
-/// used; no other place catches one.
-class ModuleFrame : public Form {
+/// views each is seen, gives the frame its file's reader and writer, and overrides `solve` and `printData`.
+class ModuleFrame : public SuiteWindow {
   public:
-    /// Result is what some modules show between the data and the report.
-    enum class View { Start, Data, Result, Report, Plot };
-
-    ModuleFrame(Suite& suite, ModuleNames names);
+    ModuleFrame(Suite& suite, const ModuleWording& wording);
 
     View view() const { return view_; }
     const std::string& currentFile() const { return currentFile_; }
@@ -54,18 +43,21 @@ class ModuleFrame : public Form {
     void interrupt() override;
 
   protected:
-    // What a module gives.
+    // What a module gives; one without a problem file leaves the first three.
 
     /// The text of a new problem's file.
-    virtual std::string defaultSkeleton() const = 0;
+    virtual std::string defaultSkeleton() const { return {}; }
 
     /// Reads a problem file and puts it into the controls. It reads whole before it puts anything.
-    virtual void readProblem(ItemReader& reader) = 0;
+    virtual void readProblem(ItemReader& /*reader*/) {}
 
     /// Writes the problem in the controls as the module's items.
-    virtual void writeProblem(ItemWriter& writer) = 0;
+    virtual void writeProblem(ItemWriter& /*writer*/) {}
 
-    /// Fills the blanks of the main grid before Save, where the module has one.
+    virtual void solve() {}
+    virtual void printData() {}
+
+    /// Fills the blanks of the grids before Save; by itself of every grid with rows.
     virtual void fillBlankCells();
 
     /// False, after a message of its own, when the problem can't be saved under that bare, upper-case name.
@@ -74,24 +66,29 @@ class ModuleFrame : public Form {
     /// False, after a message of its own, when the problem isn't fit to be written; the Save ends there.
     virtual bool mayBeWritten() { return true; }
 
+    /// Column arithmetic on the grid in use.
+    virtual void computeColumn();
+
     // The operations.
 
     void openProblem();
     bool saveProblem();
     void exitModule();
-    void excelEdit(const std::string& boxTitle = "Information",
-                   const std::string& templateName = "GenlEdit.XLS");
+    void excelEdit();
     void addRow();
     void deleteRow();
-    void continueToData();
+    void continueToData() { showView(View::Data); }
+
+    /// Tells a fault, and leads back to the data.
+    void backToData(const Message& fault);
+
+    /// Prints the plot or puts it on the clipboard, as the user answers.
     void printPlotImage();
 
     /// Prints the window as it stands, for a report that is a picture.
-    void printWindowReport(Button& printButton);
+    void printWindowReport();
 
-    void reportRuntimeError(const std::string& errorText, const std::string& place);
-
-    /// Starts a solver program of `installFolder` and waits for its end while the window stays alive, its
+    /// Starts a solver program of `installFolder`, without arguments, and waits for its end with all
     /// buttons hidden. False when it could not be started.
     bool runSolver(const std::string& program);
 
@@ -104,31 +101,32 @@ class ModuleFrame : public Form {
     /// Shows the report view with these lines; the first is the title.
     void showReportLines(const std::vector<std::string>& lines, const ReportStyle& style = {});
 
-    /// Prints OUTPUT.DAT: "Arial" 12 for the first line, "Courier New" 10 for the rest.
-    void printReportFile();
-
-    /// Prints these lines in the same way.
+    /// Prints OUTPUT.DAT, and these lines in the same way.
+    virtual void printReport();
     void printReportLines(const std::vector<std::string>& lines);
 
     /// Prints a document and ends the job.
-    void print(const PrintJob& job) { suite_.platform.printer.print(job); }
-
-    /// A job that begins as every print of input data: a blank line, the title in "Arial" 14, a blank line.
-    PrintJob dataPrint(const std::string& title) const;
-
-    /// Adds a page's lines to a print of input data, in "Courier New" 12.
-    static void printOn(PrintJob& job, const PrintLines& page);
+    void print(const PrintJob& job) { suite().platform.printer.print(job); }
 
     // The views.
 
-    /// Makes a control visible in these views and hidden in the others.
-    void seenIn(Control& control, std::initializer_list<View> views);
+    /// Makes a control be seen in these views alone; `when` adds a question that is asked in them.
+    class Seen {
+      public:
+        explicit Seen(Control& control) : control_(control) {}
+        void when(std::function<bool()> condition) const;
 
-    /// Enters a view: each control is shown or hidden as `seenIn` tells.
+      private:
+        Control& control_;
+    };
+    Seen seenIn(Control& control, std::initializer_list<View> views);
+
+    /// Enters a view. Outcomes begin with the focus on Continue, the data with it on the grid.
     void showView(View view);
 
-    /// The text boxes and options that a user may edit once a file is open.
+    /// A control that a user may use once a file is open.
     void enabledByOpen(Control& control);
+    bool opened() const { return view_ != View::Start; }
 
     // Controls.
 
@@ -141,17 +139,67 @@ class ModuleFrame : public Form {
     Label& addLabel(const std::string& name, const std::string& caption, Rect place,
                     std::initializer_list<View> views);
 
-    /// The main grid: typing, Insert, Add row, Delete row and column arithmetic work on it.
-    DataGrid& addMainGrid(const std::string& name, Rect place, int rowLimit);
+    /// Where captions with their boxes stand, row by row: twips of the design.
+    struct FieldColumn {
+        double left, top;
+        double captionWidth, boxWidth;
+        double step = 420;
+        double boxHeight = 315;
+        const Container* container = nullptr;
+        int page = 0;
+    };
+
+    /// A caption (named after the box, "lblLabel" of "txtLabel") with its box; the column goes on under it.
+    TextBox& addField(FieldColumn& column, const std::string& name, const std::string& caption);
+
+    Container& addContainer(const std::string& name, const std::string& caption, Rect place,
+                            std::initializer_list<View> views);
+
+    /// An option or a check box in a container.
+    Option& addOption(const std::string& name, const std::string& caption, Rect place, const Container& group,
+                      int page = 0);
+
+    DataGrid& addGrid(const std::string& name, Rect place, std::initializer_list<View> views = {View::Data});
+
+    /// A grid with rows that a user adds and deletes.
+    GridRows& addRowGrid(const std::string& name, Rect place, int limit);
+    GridRows& addRowGrid(const std::string& name, Rect place, int limit, const RowTitles& titles);
+
+    /// A box that sets the size of these grids.
+    SizeBox& addSizeBox(TextBox& box, std::vector<DataGrid*> grids, SizeRules rules);
+
+    /// A box that sets the count of a grid's rows.
+    SizeBox& addRowCountBox(TextBox& box, GridRows& rows, std::function<void()> onExcess);
 
     /// The start picture with the label under it, and the Open button at its usual place.
     void addStart(const std::string& openButton = "cmdOpen", Rect place = {1200, 1000, 7200, 5200});
 
+    /// Save, Solve, Print data, Exit and Excel edit at their usual places, and those that grids with rows
+    /// have. An empty name leaves one out.
+    struct DataButtons {
+        std::string arithmetic = "cmdArith";
+        std::string printData = "cmdPrintData";
+        bool rows = true; ///< Add row and Delete row
+        Rect arithmeticPlace = buttonPlace(1, 2);
+        Rect excelPlace = buttonPlace(1, 3);
+    };
+    void addDataButtons(const DataButtons& buttons);
+
+    /// Continue in these views, and the report's print button.
+    void addOutcomeButtons(std::initializer_list<View> views, const std::string& printReport);
+
+    /// The print button of the plot.
+    void addPrintPlot();
+
     /// The report box at its usual place.
     ReportScreen& addReport(const std::string& name = "rtbOut");
 
-    void setMainGrid(DataGrid& grid) { mainGrid_ = &grid; }
-    DataGrid* mainGrid() const { return mainGrid_; }
+    /// The grid that a user selected or typed in last where it is shown, else the first shown one; nullptr
+    /// when there is none.
+    DataGrid* activeGrid() const;
+
+    /// The rows of that grid, nullptr where it has none of its own.
+    GridRows* activeRows() const;
 
     /// The literal that names the place in the box of a run-time error, for one control.
     void setErrorPlace(const Control& control, std::string place) {
@@ -159,31 +207,24 @@ class ModuleFrame : public Form {
     }
 
     void run(const Control& control, const std::function<void()>& handler) override;
+    bool editable() const override { return view_ == View::Data; }
+    void restored() override;
+    std::string errorTitle() const override { return wording_.name; }
+    std::string errorPlace(const Control& control) const override;
 
     // Dialogs.
 
-    void message(const std::string& text) { suite_.messageBx(text, names_.name); }
-    void message(const std::string& text, const std::string& title) { suite_.messageBx(text, title); }
+    using SuiteWindow::message;
+    void message(const std::string& text) { message(text, wording_.name); }
 
-    Suite& suite() { return suite_; }
-    const ModuleNames& names() const { return names_; }
-    RowTitles rowTitles;
-    ArithmeticWording arithmetic;
-
-    /// The question of `printPlotImage`, and which answer prints.
-    struct PrintQuestion {
-        std::string text, title;
-        bool yesPrints = true;
-    };
-    PrintQuestion printQuestion;
-
-    std::string printFailure; ///< told in place of a run-time error when the plot can't be printed
-
-    std::string exitTitle; ///< of the question "Save data?"; the module's name unless it sets another
+    const ModuleWording& wording() const { return wording_; }
 
     Button* cmdOpen = nullptr;
+    Button* cmdSave = nullptr;
+    Button* cmdSolve = nullptr;
     Button* cmdExit = nullptr;
     Button* cmdContinue = nullptr;
+    Button* cmdPrintReport = nullptr;
     Button* cmdPrintPlot = nullptr;
     ReportScreen* report = nullptr;
 
@@ -200,29 +241,26 @@ class ModuleFrame : public Form {
     };
 
   private:
-    struct Seen {
-        Control* control;
-        std::vector<View> views;
-    };
     class SolverRun;
     class OnPaper;
 
     void printWindow();
-    std::string readOrCreate();
+    std::string readOrCreate() const;
     std::optional<std::string> chooseSaveName();
     void setCurrentFile(const std::string& path);
     FileDialog fileDialog(FileDialog::Kind kind) const;
+    void forgetTyping(const Control* except = nullptr);
 
-    Suite& suite_;
-    ModuleNames names_;
+    ModuleWording wording_;
     std::string currentFile_;
     View view_ = View::Start;
-    std::vector<Seen> seen_;
-    std::vector<Control*> enabledByOpen_;
+    std::vector<DataGrid*> grids_; ///< that a user edits
+    DataGrid* lastGrid_ = nullptr;
+    std::vector<std::unique_ptr<GridRows>> rows_;
+    std::vector<std::unique_ptr<SizeBox>> sizeBoxes_;
+    std::vector<const Control*> offPaper_; ///< buttons that aren't printed
     std::unordered_map<const Control*, std::string> errorPlaces_;
-    DataGrid* mainGrid_ = nullptr;
     std::unique_ptr<RunningProgram> solver_;
-    bool closing_ = false;
 };
 
 } // namespace vantore

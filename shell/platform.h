@@ -27,19 +27,25 @@ struct FileDialog {
     enum class Kind { Open, Save };
     Kind kind = Kind::Open;
     std::string title;
-    std::string folder;
+    std::string folder; ///< Empty: the current folder.
     std::string filter; ///< "Center of gravity (COG*.dat)|COG*.dat|"
+    std::string name;   ///< Proposed to the user; empty: none.
 };
 
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
 
-    /// Shows a message, question or input dialog until one of its buttons has closed it.
+    /// Shows a message, question or input dialog until one of its buttons, its title bar or Escape has closed
+    /// it.
     virtual void showModal(DialogForm& dialog) = 0;
 
     /// The chosen path, or nothing on Cancel. The file need not exist.
     virtual std::optional<std::string> chooseFile(const FileDialog& dialog) = 0;
+
+    /// Something that was asked for has failed, or wasn't there and had to be made new. The user has been
+    /// told; who plays the suite unattended may end here by a PlatformFailure.
+    virtual void failed(const std::string& /*what*/) {}
 };
 
 class Printer {
@@ -61,7 +67,6 @@ class Clipboard {
   public:
     virtual ~Clipboard() = default;
     virtual void clear() = 0;
-    virtual void setText(const std::string& text) = 0;
     virtual void setPicture(const CapturedPicture& picture) = 0;
 };
 
@@ -122,12 +127,40 @@ class Display {
     virtual void processEvents() = 0;
 };
 
+/// The system's settings that the suite looks at when it is set up. Where a system has no such setting the
+/// answer is the one that calls for nothing.
+class Settings {
+  public:
+    virtual ~Settings() = default;
+
+    /// The display's size in pixels.
+    struct Resolution {
+        int width = 0, height = 0;
+
+        bool operator==(const Resolution&) const = default;
+    };
+    virtual Resolution resolution() const = 0;
+    virtual int dotsPerInch() const = 0;
+
+    /// The name of the user's language in English; nothing when it can't be told.
+    virtual std::optional<std::string> language() const = 0;
+
+    virtual bool themed() const = 0;
+
+    /// Shows the system's display settings on a page.
+    virtual void openDisplaySettings(int page) = 0;
+
+    /// The volumes that folders may lie on, such as "/" and "/media/stick".
+    virtual std::vector<std::string> volumes() const = 0;
+};
+
 struct Platform {
     Dialogs& dialogs;
     Printer& printer;
     Clipboard& clipboard;
     Programs& programs;
     Display& display;
+    Settings& settings;
 };
 
 } // namespace vantore

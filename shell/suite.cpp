@@ -1,5 +1,6 @@
 #include "shell/suite.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/base/text_file.h"
@@ -30,6 +31,15 @@ std::filesystem::path Suite::drvFile() const {
     return installPath("VANTORE.DRV");
 }
 
+void Suite::setScale(double width, double height) {
+    constexpr double designWidth = 800; // pixels
+    constexpr double designHeight = 600;
+    constexpr double least = .5; // a window that is smaller or larger can't be seen
+    constexpr double most = 20;
+    scaleX = std::clamp(width / designWidth, least, most);
+    scaleY = std::clamp(height / designHeight, least, most);
+}
+
 void Suite::messageBx(const std::string& prompt, const std::string& title, const std::string& alignment,
                       double size) {
     MsgeBx dialog(scale(), prompt, title, size);
@@ -42,8 +52,8 @@ int Suite::yesNoBx(const std::string& prompt, const std::string& title, const st
     YNBx dialog(scale(), prompt, title, size);
     dialog.layOut(platform.display, alignment);
     platform.dialogs.showModal(dialog);
-    dialogReply = dialog.reply;
-    return dialog.reply;
+    if (!dialog.reply) throw Unanswered();
+    return *dialog.reply;
 }
 
 std::string Suite::inputBx(const std::string& prompt, const std::string& title, const std::string& alignment,
@@ -51,7 +61,6 @@ std::string Suite::inputBx(const std::string& prompt, const std::string& title, 
     InptBx dialog(scale(), prompt, title, size, defaultText);
     dialog.layOut(platform.display, alignment);
     platform.dialogs.showModal(dialog);
-    dialogReply = dialog.reply;
     return dialog.reply;
 }
 

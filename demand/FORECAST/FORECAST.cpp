@@ -4,21 +4,20 @@
 #include "demand/FORECAST/report.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
+#include "shell/printing.h"
 
 namespace vantore::forecast {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "FORECAST",
-                                 .filePrefix = "FRC",
-                                 .openTitle = "Open forecasting data file",
-                                 .saveTitle = "Save forecasting data",
-                                 .filter = "Time series forecasting (FRC*.dat)|FRC*.dat|",
-                                 .saveFilter = ""};
+const ModuleWording forecastWording = {.name = "FORECAST",
+                                       .filePrefix = "FRC",
+                                       .openTitle = "Open forecasting data file",
+                                       .saveTitle = "Save forecasting data",
+                                       .filter = "Time series forecasting (FRC*.dat)|FRC*.dat|",
+                                       .printFailure = "The form can't be printed."};
 
 // Places in twips of the design.
-constexpr double fieldsTop = 540;
-constexpr double fieldStep = 345;
 constexpr Rect seriesPlace{5400, 540, 4080, 5790};
 constexpr Rect modelsPlace{120, 4080, 5100, 2250};
 constexpr double firstModelTop = 4400;
@@ -26,82 +25,59 @@ constexpr double modelStep = 360;
 constexpr Rect plotPlace{120, 120, 9360, 6210};
 constexpr Rect startLabelPlace{120, 5730, 9360, 600};
 
-constexpr int labelColumn = 1;
-constexpr int valueColumn = 2;
-
 } // namespace
 
-FORECAST::FORECAST(Suite& suite) : ModuleFrame(suite, moduleNames) {
-    printFailure = "The form can't be printed.";
+FORECAST::FORECAST(Suite& suite) : ModuleFrame(suite, forecastWording) {
     addFields();
     addModels();
     addSeries();
     addButtons();
-    addOutcomeButtons();
-    showView(View::Start);
 }
 
 // Controls
 
-TextBox& FORECAST::addField(const std::string& name, const std::string& prompt) {
-    // Each field before it has added a label and a box, the problem's label first of all.
-    const std::size_t fieldsBefore = controls().size() / 2 - 1;
-    const double top = fieldsTop + fieldStep * static_cast<double>(fieldsBefore);
-    addLabel("lbl" + name.substr(3), prompt, {120, top + 30, 4080, 270}, {View::Start, View::Data});
-    return addTextBox(name, {4260, top, 960, 300});
-}
-
 void FORECAST::addFields() {
-    addLabel("lblLabel", "Problem label:", {120, 150, 1700, 270}, {View::Start, View::Data});
-    txtLabel = &addTextBox("txtLabel", {1860, 120, 7620, 300});
-    txtNoPrds = &addField("txtNoPrds", "Number of data periods:");
-    txtIni = &addField("txtIni", "Periods used for model initialization:");
-    txtErrPrds = &addField("txtErrPrds", "Number of periods used to compute error statistics:");
-    txtSearch = &addField("txtSearch", "Search for best smoothing constant (Y/N)?");
-    txtSearch->onLeave = [this] { checkSearchAnswer(); };
-    txtSearchInc = &addField("txtSearchInc", "Search increment:");
-    txtLvlCons = &addField("txtLvlCons", "Level smoothing constant:");
-    txtTrendCons = &addField("txtTrendCons", "Trend smoothing constant:");
-    txtSeaCons = &addField("txtSeaCons", "Seasonal smoothing constant:");
-    txtSeasLen = &addField("txtSeasLen", "Seasonal length (in periods):");
-    txtForPrds = &addField("txtForPrds", "Number of periods to be forecast:");
+    FieldColumn label{.left = 120, .top = 120, .captionWidth = 1680, .boxWidth = 7620, .boxHeight = 300};
+    FieldColumn column{
+        .left = 120, .top = 540, .captionWidth = 4080, .boxWidth = 960, .step = 345, .boxHeight = 300};
+    auto& txtLabel = addField(label, "txtLabel", "Problem label:");
+    txtNoPrds = &addField(column, "txtNoPrds", "Number of data periods:");
+    auto& txtIni = addField(column, "txtIni", "Periods used for model initialization:");
+    auto& txtErrPrds = addField(column, "txtErrPrds", "Number of periods used to compute error statistics:");
+    auto& txtSearch = addField(column, "txtSearch", "Search for best smoothing constant (Y/N)?");
+    txtSearch.onLeave = [this, &txtSearch] { checkSearchAnswer(txtSearch); };
+    auto& txtSearchInc = addField(column, "txtSearchInc", "Search increment:");
+    auto& txtLvlCons = addField(column, "txtLvlCons", "Level smoothing constant:");
+    auto& txtTrendCons = addField(column, "txtTrendCons", "Trend smoothing constant:");
+    auto& txtSeaCons = addField(column, "txtSeaCons", "Seasonal smoothing constant:");
+    auto& txtSeasLen = addField(column, "txtSeasLen", "Seasonal length (in periods):");
+    auto& txtForPrds = addField(column, "txtForPrds", "Number of periods to be forecast:");
+    boxes_ = {boxFields,
+              {&txtLabel, &txtIni, &txtErrPrds, &txtSearch, &txtSearchInc, &txtLvlCons, &txtTrendCons,
+               &txtSeaCons, &txtSeasLen, &txtForPrds}};
 }
 
 void FORECAST::addModels() {
-    auto& frame = add<Frame>("fraModel", modelsPlace);
-    frame.caption = "Type of forecasting model";
-    seenIn(frame, {View::Data});
-    const std::array<std::pair<const char*, const char*>, 5> captions = {
+    const auto& frame = addContainer("fraModel", "Type of forecasting model", modelsPlace, {View::Data});
+    constexpr std::array<std::pair<const char*, const char*>, 5> captions = {
         {{"optLevel", "Level only"},
          {"optLvlTrd", "Level - Trend"},
          {"optLvlSea", "Level - Seasonal"},
          {"optLvlTrdSea", "Level - Trend - Seasonal"},
          {"optDECOMP", "Time series decomposition"}}};
-    double top = firstModelTop;
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        auto& option = add<Option>(captions.at(i).first, Rect{360, top, 4600, 300});
-        option.caption = captions.at(i).second;
-        option.frame = &frame;
-        seenIn(option, {View::Data});
-        models_.at(i) = &option;
-        top += modelStep;
-    }
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        models_.at(i) =
+            &addOption(captions.at(i).first, captions.at(i).second,
+                       {360, firstModelTop + modelStep * static_cast<double>(i), 4600, 300}, frame);
 }
 
 void FORECAST::addSeries() {
-    grdSeries = &addMainGrid("grdSeries", seriesPlace, mostPeriods);
-    grdSeries->onInsertKey = [this] { changeRows([this] { insertKeyRow(suite(), *grdSeries, rowTitles); }); };
-    countBox_ = std::make_unique<RowCountBox>(*txtNoPrds, std::vector{grdSeries}, [this] {
-        message("Too many rows.  Limit is" + str(mostPeriods), rowTitles.limit);
-    });
-    grdSeries->setCols(3);
-    const std::array<const char*, 3> captions = {"Prd\r\nno.", "Period label", "Time series\r\ndata, units"};
-    const std::array<double, 3> widths = {560, 1800, 1400};
-    for (int col = 0; col < 3; ++col) {
-        grdSeries->setCell(0, col, captions.at(static_cast<std::size_t>(col)));
-        grdSeries->setColWidth(col, widths.at(static_cast<std::size_t>(col)));
-    }
-    grdSeries->setRowHeight(0, 2 * designRowHeight);
+    GridRows& rows = addRowGrid("grdSeries", seriesPlace, mostPeriods);
+    grdSeries = &rows.grid();
+    periods_ = {*grdSeries,
+                periodFields,
+                {{"Prd\r\nno.", 560}, {"Period label", 1800}, {"Time series\r\ndata, units", 1400}}};
+    countBox_ = &addRowCountBox(*txtNoPrds, rows, [&rows] { rows.reportLimit(); });
     grfPlot = &add<Chart>("grfPlot", plotPlace);
     seenIn(*grfPlot, {View::Plot});
     addReport();
@@ -112,70 +88,34 @@ void FORECAST::addButtons() {
     // The text under the start picture needs the whole width.
     find("Image1")->design.height = startLabelPlace.top - seriesPlace.top - 120;
     find("lblStart")->design = startLabelPlace;
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
-    addButton("cmdColArith", "Colu&mn Arithmetic", buttonPlace(0, 4), {View::Data}, [this] {
-        columnArithmetic(suite(), *grdSeries, arithmetic, [](int col) { return col == valueColumn; });
-    });
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
-    addButton("cmdAdd", "&Add row", buttonPlace(1, 0), {View::Data},
-              [this] { changeRows([this] { addRow(); }); });
-    addButton("cmdDelete", "&Delete row", buttonPlace(1, 1), {View::Data},
-              [this] { changeRows([this] { deleteRow(); }); });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(1, 3), {View::Data}, [this] { excelEdit(); });
-}
-
-void FORECAST::addOutcomeButtons() {
+    addDataButtons({.arithmetic = "cmdColArith", .arithmeticPlace = buttonPlace(0, 4)});
     cmdPlot = &addButton("cmdPlot", "P&lot data", buttonPlace(1, 2), {View::Data, View::Report},
                          [this] { plot(); });
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report, View::Plot},
-                             [this] { continueToData(); });
-    cmdPrintTB =
-        &addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
-    cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
+    addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
+    addPrintPlot();
 }
 
-void FORECAST::changeRows(const std::function<void()>& operation) {
-    operation();
-    countBox_->settle();
-}
-
-void FORECAST::checkSearchAnswer() {
-    const std::string answer = upperCase(txtSearch->text());
+void FORECAST::checkSearchAnswer(const TextBox& box) {
+    const std::string answer = upperCase(box.text());
     if (!answer.empty() && answer != "Y" && answer != "N") message("Enter Y or N only");
 }
 
-// Files
+// The problem
 
 void FORECAST::readProblem(ItemReader& reader) {
     const Problem problem = read(reader);
+    boxes_.show(problem);
     setDataRows(*grdSeries, problem.dataPeriods);
-    for (int t = 1; t <= problem.dataPeriods; ++t) {
-        grdSeries->setCell(t, labelColumn, problem.periods(t).label);
-        grdSeries->setCell(t, valueColumn, defaultText(problem.periods(t).value));
-    }
-    txtLabel->setText(problem.label);
+    for (int t = 1; t <= problem.dataPeriods; ++t) periods_.put(t, problem.periods(t));
     countBox_->settle();
-    txtIni->setText(defaultText(problem.initialPeriods));
-    txtErrPrds->setText(defaultText(problem.errorPeriods));
     for (std::size_t i = 0; i < models_.size(); ++i)
         models_.at(i)->selected = static_cast<int>(i) + 1 == static_cast<int>(problem.model);
-    txtSearch->setText(problem.search);
-    txtSearchInc->setText(defaultText(problem.searchIncrement));
-    txtLvlCons->setText(defaultText(problem.levelConstant));
-    txtTrendCons->setText(defaultText(problem.trendConstant));
-    txtSeaCons->setText(defaultText(problem.seasonalConstant));
-    txtSeasLen->setText(defaultText(problem.seasonalLength));
-    txtForPrds->setText(defaultText(problem.forecastPeriods));
-    forecast_.reset();
-    cmdPlot->caption = "P&lot data";
+    forgetForecast();
 }
 
-void FORECAST::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
+void FORECAST::forgetForecast() {
+    forecast_.reset();
+    cmdPlot->caption = "P&lot data";
 }
 
 bool FORECAST::mayBeWritten() {
@@ -191,25 +131,12 @@ Model FORECAST::chosenModel() const {
 }
 
 Problem FORECAST::readControls() const {
-    const auto countOf = [](const TextBox* box) { return roundedCount(val(box->text())); };
-    const auto constantOf = [](const TextBox* box) { return roundedConstant(val(box->text())); };
     Problem problem;
-    problem.label = txtLabel->text();
-    problem.dataPeriods = grdSeries->rowCount;
-    problem.initialPeriods = countOf(txtIni);
-    problem.errorPeriods = countOf(txtErrPrds);
+    boxes_.take(problem);
+    roundFigures(problem);
     problem.model = chosenModel();
-    problem.search = txtSearch->text();
-    problem.searchIncrement = constantOf(txtSearchInc);
-    problem.levelConstant = constantOf(txtLvlCons);
-    problem.trendConstant = constantOf(txtTrendCons);
-    problem.seasonalConstant = constantOf(txtSeaCons);
-    problem.seasonalLength = countOf(txtSeasLen);
-    problem.forecastPeriods = countOf(txtForPrds);
-    for (int t = 1; t <= problem.dataPeriods; ++t) {
-        problem.periods(t).label = trimmed(grdSeries->cell(t, labelColumn));
-        problem.periods(t).value = val(grdSeries->cell(t, valueColumn));
-    }
+    problem.dataPeriods = grdSeries->rowCount();
+    for (int t = 1; t <= problem.dataPeriods; ++t) periods_.take(t, problem.periods(t));
     return problem;
 }
 
@@ -224,16 +151,13 @@ bool FORECAST::passes(const Problem& problem) {
 void FORECAST::solve() {
     const Problem problem = readControls();
     if (!passes(problem)) return continueToData();
-    showView(View::Report);
-    report->clear();
-    cmdContinue->visible = cmdPrintTB->visible = cmdPlot->visible = false;
-    forecast_.reset();
-    cmdPlot->caption = "P&lot data";
+    forgetForecast();
     if (seasonIsTooLong(problem)) {
         suite().platform.display.beep();
-        message("Initialization period must exceed seasonal length by at least 2 periods.");
-        return continueToData();
+        return backToData({"Initialization period must exceed seasonal length by at least 2 periods.", ""});
     }
+    showView(View::Report);
+    report->clear();
     const Busy busy(suite());
     Forecast result = forecast(problem);
     writeReportFile(reportOf(problem, result));
@@ -245,12 +169,7 @@ void FORECAST::solve() {
 // Print and plot
 
 void FORECAST::printData() {
-    PrintLines title;
-    title.line("").line("                           FORECASTING DATA").line("");
-    PrintJob job{.title = names().name};
-    printOn(job, title);
-    printOn(job, dataLines(readControls()));
-    print(job);
+    print(plainJob(wording().name, dataLines(readControls())));
 }
 
 ChartData FORECAST::askedChart() {

@@ -1,15 +1,13 @@
 #pragma once
 
 #include <array>
-#include <functional>
-#include <memory>
 #include <optional>
-#include <string>
 
 #include "demand/FORECAST/method.h"
 #include "demand/FORECAST/problem.h"
+#include "shell/fields.h"
+#include "shell/grid_columns.h"
 #include "shell/module_frame.h"
-#include "shell/row_count_box.h"
 
 namespace vantore::forecast {
 
@@ -22,47 +20,36 @@ class FORECAST : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
     bool mayBeWritten() override;
+    void solve() override;
+    void printData() override;
 
   private:
     void addFields();
-    TextBox& addField(const std::string& name, const std::string& prompt);
     void addModels();
     void addSeries();
     void addButtons();
-    void addOutcomeButtons();
 
-    void changeRows(const std::function<void()>& operation);
-    void checkSearchAnswer();
-    void solve();
-    void printData();
+    void checkSearchAnswer(const TextBox& box);
     void plot();
 
+    void forgetForecast();
     Problem readControls() const;
     Model chosenModel() const;
     bool passes(const Problem& problem);
     ChartData askedChart();
 
-    TextBox* txtLabel = nullptr;
+    Fields<Problem> boxes_;
+    GridColumns<Period> periods_;
     TextBox* txtNoPrds = nullptr;
-    TextBox* txtIni = nullptr;
-    TextBox* txtErrPrds = nullptr;
-    TextBox* txtSearch = nullptr;
-    TextBox* txtSearchInc = nullptr;
-    TextBox* txtLvlCons = nullptr;
-    TextBox* txtTrendCons = nullptr;
-    TextBox* txtSeaCons = nullptr;
-    TextBox* txtSeasLen = nullptr;
-    TextBox* txtForPrds = nullptr;
     std::array<Option*, 5> models_{}; ///< in the order of their numbers
     DataGrid* grdSeries = nullptr;
+    SizeBox* countBox_ = nullptr; ///< txtNoPrds and the rows of grdSeries
     Chart* grfPlot = nullptr;
     Button* cmdPlot = nullptr;
-    Button* cmdPrintTB = nullptr;
 
-    std::unique_ptr<RowCountBox> countBox_; ///< txtNoPrds and the rows of grdSeries
-    std::optional<Forecast> forecast_;      ///< of the last Solve since a file was opened
+    std::optional<Forecast> forecast_; ///< of the last Solve since a file was opened
 };
 
 } // namespace vantore::forecast

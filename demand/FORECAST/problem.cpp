@@ -112,6 +112,15 @@ double roundedConstant(double value) {
     return val(format(value, "#.#0"));
 }
 
+void roundFigures(Problem& problem) {
+    for (const auto count : {&Problem::initialPeriods, &Problem::errorPeriods, &Problem::seasonalLength,
+                             &Problem::forecastPeriods})
+        problem.*count = roundedCount(problem.*count);
+    for (const auto constant : {&Problem::searchIncrement, &Problem::levelConstant, &Problem::trendConstant,
+                                &Problem::seasonalConstant})
+        problem.*constant = roundedConstant(problem.*constant);
+}
+
 std::string skeleton() {
     Problem problem;
     problem.label = "Enter label";
@@ -131,36 +140,27 @@ std::string skeleton() {
 
 Problem read(ItemReader& reader) {
     Problem problem;
-    problem.label = reader.readString();
+    const std::span<const Field<Problem>> fields = boxFields;
+    readFields(reader, problem, fields.first(1));
     reader.readCount(mostPeriods); // The count in the second line, which the rows follow, says it again.
-    problem.initialPeriods = reader.readNumber();
-    problem.errorPeriods = reader.readNumber();
+    readFields(reader, problem, fields.subspan(1, 2));
     problem.model = modelOf(reader.readNumber());
-    problem.search = reader.readString();
-    problem.searchIncrement = reader.readNumber();
-    problem.levelConstant = reader.readNumber();
-    problem.trendConstant = reader.readNumber();
-    problem.seasonalConstant = reader.readNumber();
-    problem.seasonalLength = reader.readNumber();
-    problem.forecastPeriods = reader.readNumber();
+    readFields(reader, problem, fields.subspan(3));
     problem.dataPeriods = reader.readCount(mostPeriods);
-    for (int t = 1; t <= problem.dataPeriods; ++t) {
-        problem.periods(t).label = reader.readString();
-        problem.periods(t).value = reader.readNumber();
-    }
+    for (int t = 1; t <= problem.dataPeriods; ++t)
+        readFields<Period>(reader, problem.periods(t), periodFields);
     return problem;
 }
 
 void write(const Problem& problem, ItemWriter& writer) {
-    writer.string(problem.label).number(problem.dataPeriods);
-    writer.number(problem.initialPeriods).number(problem.errorPeriods);
-    writer.number(static_cast<int>(problem.model)).string(problem.search).number(problem.searchIncrement);
-    writer.number(problem.levelConstant).number(problem.trendConstant).number(problem.seasonalConstant);
-    writer.number(problem.seasonalLength).number(problem.forecastPeriods).endLine();
-    writer.number(problem.dataPeriods).endLine();
-    for (int t = 1; t <= problem.dataPeriods; ++t) {
-        writer.label(problem.periods(t).label).number(problem.periods(t).value).endLine();
-    }
+    const std::span<const Field<Problem>> fields = boxFields;
+    writeFields(writer, problem, fields.first(1));
+    writer.number(problem.dataPeriods);
+    writeFields(writer, problem, fields.subspan(1, 2));
+    writer.number(static_cast<int>(problem.model));
+    writeFields(writer, problem, fields.subspan(3));
+    writer.endLine().number(problem.dataPeriods).endLine();
+    for (int t = 1; t <= problem.dataPeriods; ++t) writeRow<Period>(writer, problem.periods(t), periodFields);
 }
 
 Verdict validate(const Problem& problem) {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::forecast {
@@ -47,9 +48,20 @@ struct Problem {
     bool searches() const { return search == "Y" || search == "y"; }
 };
 
+/// The members that the user edits in boxes. In the file the count of periods follows the first of them, the
+/// model's number the third.
+inline constexpr std::array<Field<Problem>, 10> boxFields = {
+    &Problem::label,           &Problem::initialPeriods, &Problem::errorPeriods,  &Problem::search,
+    &Problem::searchIncrement, &Problem::levelConstant,  &Problem::trendConstant, &Problem::seasonalConstant,
+    &Problem::seasonalLength,  &Problem::forecastPeriods};
+inline constexpr std::array<Field<Period>, 2> periodFields = {&Period::label, &Period::value};
+
 /// `value` rounded to the whole number or to the two decimals that the record holds.
 double roundedCount(double value);
 double roundedConstant(double value);
+
+/// The record as it is held: counts and constants rounded.
+void roundFigures(Problem& problem);
 
 /// The text of a new problem's file.
 std::string skeleton();

@@ -81,6 +81,7 @@ PrintLines reportOf(const Problem& problem, const Forecast& forecast) {
 
 PrintLines dataLines(const Problem& problem) {
     PrintLines page;
+    page.line("").line("                           FORECASTING DATA").line("");
     page.line("Problem label: " + problem.label);
     page.line(joined("Number of data periods: ", problem.dataPeriods));
     page.line(joined("Periods used for model initialization: ", problem.initialPeriods));

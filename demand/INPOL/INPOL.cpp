@@ -3,27 +3,29 @@
 #include "demand/INPOL/report.h"
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
-#include "shell/base/text.h"
+#include "shell/printing.h"
 
 namespace vantore::inpol {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "INPOL",
-                                 .filePrefix = "INV",
-                                 .openTitle = "Open inventory data file",
-                                 .saveTitle = "Save inventory data",
-                                 .filter = "Inventory control (INV*.dat)|INV*.dat|",
-                                 .saveFilter = ""};
+/// Exit and the spreadsheet hand-off have the title of the warehouse case.
+constexpr const char* warehouseTitle = "WARELOCA";
 
-/// Exit and the spreadsheet hand-off have always borne this title.
-constexpr const char* borrowedTitle = "WARELOCA";
-
-constexpr int labelColumn = 1;
-constexpr int firstValueColumn = 2;
+const ModuleWording inpolWording = {
+    .name = "INPOL",
+    .filePrefix = "INV",
+    .openTitle = "Open inventory data file",
+    .saveTitle = "Save inventory data",
+    .filter = "Inventory control (INV*.dat)|INV*.dat|",
+    .exitTitle = warehouseTitle,
+    .printQuestion =
+        {.text = "Select YES to print.  For a higher resolution picture, choose NO. Then, paste, edit, "
+                 "and print the captured Windows' clipboard image from another program such as WORD or "
+                 "POWERPOINT."},
+    .spreadsheet = {.title = warehouseTitle}};
 
 // Twips of the design.
-constexpr double questionHeight = 315;
 constexpr double gridLeft = 120;
 constexpr double gridTop = 1800;
 constexpr double gridWidth = 9360;
@@ -35,166 +37,122 @@ constexpr double valueColumnWidth = 1210;
 constexpr Rect startPlace{1200, 1900, 7200, 4300};
 constexpr Rect chartPlace{120, 120, 9360, 6135};
 
+std::string captionOf(const ColumnHeading& heading) {
+    return std::string(heading.upper) + "\r\n" + heading.lower;
+}
+
 } // namespace
 
-INPOL::INPOL(Suite& suite) : ModuleFrame(suite, moduleNames) {
-    exitTitle = borrowedTitle;
-    printQuestion.text =
-        "Select YES to print.  For a higher resolution picture, choose NO. Then, paste, edit, and print the "
-        "captured Windows' clipboard image from another program such as WORD or POWERPOINT.";
+INPOL::INPOL(Suite& suite) : ModuleFrame(suite, inpolWording) {
     addQuestions();
-    addGrids();
+    addTables();
+    addCountBox();
     addStart("cmdOpen", startPlace);
-    addDataButtons();
-    addReport();
-    chtPlot = &add<Chart>("chtPlot", chartPlace);
-    seenIn(*chtPlot, {View::Plot});
-    addOutcomeButtons();
-    showView(View::Start);
+    addDataButtons({.arithmetic = "", .rows = false, .excelPlace = buttonPlace(0, 4)});
+    addOutcome();
 }
 
 // Controls
 
+TextBox& INPOL::ask(FieldColumn column, const std::string& name, const std::string& prompt) {
+    TextBox& box = addField(column, name, prompt);
+    questions_.push_back({prompt, &box});
+    return box;
+}
+
 void INPOL::addQuestions() {
-    const auto ask = [this](TextBox*& box, const std::string& name, const std::string& prompt, double left,
-                            double top, double promptWidth, double boxWidth) {
-        addLabel("lbl" + name, prompt, {left, top + 30, promptWidth, questionHeight - 45},
-                 {View::Start, View::Data});
-        box = &addTextBox("txt" + name, {left + promptWidth + 60, top, boxWidth, questionHeight});
-        questions_.push_back({prompt, box});
+    const auto left = [](int row) {
+        return FieldColumn{.left = 120, .top = 90.0 + 335 * row, .captionWidth = 3700, .boxWidth = 500};
     };
-    constexpr std::array<double, 5> tops = {90, 425, 760, 1095, 1430};
-    ask(txtLabel, "Label", "Problem label", 120, tops[0], 1300, 4800);
-    ask(txtNoPrd, "NoPrd", "Number of products", 6580, tops[0], 1940, 900);
-    ask(txtTimeFrame, "TimeFrame", "Time frame (1=Calendar days, 2=Working days, 3=Weeks, 4=Months, 5=Year)",
-        120, tops[1], 6300, 700);
-    ask(txtJointOrder, "JointOrder", "Are the items jointly ordered (Y/N)?", 120, tops[2], 3700, 500);
-    ask(txtServInd, "ServInd", "Are the service indices specified (Y/N)?", 120, tops[3], 3700, 500);
-    ask(txtSen, "Sen", "Do you want a sensitivity analysis (Y/N)?", 120, tops[4], 3700, 500);
-    ask(txtJointCost, "JointCost", "Joint-order procurement cost", 4620, tops[2], 3900, 900);
-    ask(txtCycleTime, "CycleTime", "Order cycle time in Time Frame units", 4620, tops[3], 3900, 900);
-    ask(txtOrderQuant, "OrderQuant", "Are the order quantities to be specified (Y/N)?", 4620, tops[4], 3900,
-        900);
-    txtCycleTime->tip = "0 to have the cycle time of joint orders computed.";
+    const auto right = [](int row) {
+        return FieldColumn{.left = 4620, .top = 90.0 + 335 * row, .captionWidth = 3900, .boxWidth = 900};
+    };
+    auto& txtLabel =
+        ask({.left = 120, .top = 90, .captionWidth = 1300, .boxWidth = 4800}, "txtLabel", "Problem label");
+    txtNoPrd = &ask({.left = 6580, .top = 90, .captionWidth = 1940, .boxWidth = 900}, "txtNoPrd",
+                    "Number of products");
+    auto& txtTimeFrame = ask({.left = 120, .top = 425, .captionWidth = 6300, .boxWidth = 700}, "txtTimeFrame",
+                             "Time frame (1=Calendar days, 2=Working days, 3=Weeks, 4=Months, 5=Year)");
+    auto& txtJointOrder = ask(left(2), "txtJointOrder", "Are the items jointly ordered (Y/N)?");
+    auto& txtServInd = ask(left(3), "txtServInd", "Are the service indices specified (Y/N)?");
+    auto& txtSen = ask(left(4), "txtSen", "Do you want a sensitivity analysis (Y/N)?");
+    auto& txtJointCost = ask(right(2), "txtJointCost", "Joint-order procurement cost");
+    auto& txtCycleTime = ask(right(3), "txtCycleTime", "Order cycle time in Time Frame units");
+    auto& txtOrderQuant = ask(right(4), "txtOrderQuant", "Are the order quantities to be specified (Y/N)?");
+    txtCycleTime.tip = "0 to have the cycle time of joint orders computed.";
     txtNoPrd->tip = "1 to 50; the grids follow it.";
+    boxes_ = {boxFields,
+              {&txtLabel, &txtTimeFrame, &txtJointOrder, &txtServInd, &txtSen, &txtJointCost, &txtCycleTime,
+               &txtOrderQuant}};
 }
 
-void INPOL::addGrids() {
+void INPOL::addTables() {
     constexpr std::array<const char*, 3> names = {"grdDemand", "grdPrice", "grdMisc"};
-    for (std::size_t k = 0; k < grids_.size(); ++k) {
+    for (std::size_t k = 0; k < tables_.size(); ++k) {
         const double top = gridTop + static_cast<double>(k) * gridStep;
-        auto& grid = addMainGrid(names.at(k), {gridLeft, top, gridWidth, gridHeight}, mostProducts);
-        grid.onInsertKey = [this, &grid] { appendProduct(grid); };
-        grids_.at(k) = &grid;
+        GridRows& rows = addRowGrid(names.at(k), {gridLeft, top, gridWidth, gridHeight}, mostProducts);
+        rows.setCount = [this](int count) { setProductCount(count); };
+        rows.grid().onInsertKey = [this, &rows] { appendProduct(rows); };
         const TableHeading& heading = tableHeadings().at(k);
-        const auto caption = [](const ColumnHeading& lines) {
-            return std::string(lines.upper) + "\r\n" + lines.lower;
-        };
-        grid.setCols(firstValueColumn + static_cast<int>(heading.values.size()));
-        grid.setRowHeight(0, 2 * designRowHeight);
-        grid.setCell(0, 0, caption(heading.number));
-        grid.setCell(0, labelColumn, "Product label");
-        grid.setColWidth(0, numberColumnWidth);
-        grid.setColWidth(labelColumn, labelColumnWidth);
-        int col = firstValueColumn;
-        for (const ColumnHeading& lines : heading.values) {
-            grid.setCell(0, col, caption(lines));
-            grid.setColWidth(col++, valueColumnWidth);
-        }
+        std::vector<vantore::ColumnHeading> headings = {{captionOf(heading.number), numberColumnWidth},
+                                                        {"Product label", labelColumnWidth}};
+        for (const ColumnHeading& value : heading.values)
+            headings.push_back({captionOf(value), valueColumnWidth});
+        tables_.at(k) = {&rows, {rows.grid(), productTables.at(k).fields, headings}};
     }
-    grdDemand = grids_[0];
-    grdPrice = grids_[1];
-    grdMisc = grids_[2];
-    setMainGrid(*grdDemand);
-    countBox_ =
-        std::make_unique<RowCountBox>(*txtNoPrd, std::vector<DataGrid*>(grids_.begin(), grids_.end()), [] {
-            // More than 50 products are ignored: the box shows the old number again.
-        });
 }
 
-void INPOL::addDataButtons() {
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(0, 4), {View::Data},
-              [this] { excelEdit(borrowedTitle); });
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
+/// More than 50 products are ignored: the box shows the old number again.
+void INPOL::addCountBox() {
+    std::vector<DataGrid*> grids;
+    for (const ShownTable& table : tables_) grids.push_back(&table.rows->grid());
+    countBox_ = &addSizeBox(*txtNoPrd, std::move(grids),
+                            {.most = mostProducts,
+                             .present = [this] { return productCount(); },
+                             .shape = [this](int count) { setProductCount(count); }});
+    for (const ShownTable& table : tables_) table.rows->onCount = [this] { countBox_->settle(); };
 }
 
-void INPOL::addOutcomeButtons() {
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report, View::Plot},
-                             [this] { continueToData(); });
-    addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
+void INPOL::addOutcome() {
+    addReport();
+    chtPlot = &add<Chart>("chtPlot", chartPlace);
+    seenIn(*chtPlot, {View::Plot});
+    addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
     addButton("cmdPlot", "P&lot", buttonPlace(1, 2), {View::Data, View::Report}, [this] { plot(); });
-    cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
+    addPrintPlot();
 }
 
-/// The Insert key in any of the grids: a product is a row in each of them.
-void INPOL::appendProduct(DataGrid& grid) {
-    if (productCount() >= mostProducts)
-        return message("Too many rows.  Limit is" + str(mostProducts), rowTitles.limit);
-    const int count = productCount() + 1;
-    for (DataGrid* each : grids_) setDataRows(*each, count);
+/// A product is a row in each of the grids.
+void INPOL::setProductCount(int count) {
+    for (const ShownTable& table : tables_) setDataRows(table.rows->grid(), count);
+}
+
+/// The Insert key in any of the grids.
+void INPOL::appendProduct(const GridRows& rows) {
+    if (productCount() >= mostProducts) return rows.reportLimit();
+    setProductCount(productCount() + 1);
     countBox_->settle();
-    grid.setCurrent(grid.row(), labelColumn);
+    rows.grid().setCurrent(rows.grid().row(), 1);
 }
 
 // The problem
 
 void INPOL::readProblem(ItemReader& reader) {
     const Problem problem = read(reader);
-    txtLabel->setText(problem.label);
-    txtTimeFrame->setText(defaultText(problem.timeFrame));
-    txtJointOrder->setText(problem.jointOrderAnswer);
-    txtServInd->setText(problem.serviceIndexAnswer);
-    txtSen->setText(problem.sensitivityAnswer);
-    txtJointCost->setText(defaultText(problem.jointCost));
-    txtCycleTime->setText(defaultText(problem.cycleTime));
-    txtOrderQuant->setText(problem.orderQuantityAnswer);
-    for (std::size_t k = 0; k < grids_.size(); ++k) {
-        const ProductTable& table = productTables.at(k);
-        setDataRows(*grids_.at(k), problem.productCount);
-        for (int i = 1; i <= problem.productCount; ++i) {
-            const Product& product = problem.products(i);
-            grids_.at(k)->setCell(i, labelColumn, product.*table.label);
-            int col = firstValueColumn;
-            for (const auto value : table.values)
-                grids_.at(k)->setCell(i, col++, defaultText(product.*value));
-        }
-    }
+    boxes_.show(problem);
+    setProductCount(problem.productCount);
+    for (const ShownTable& table : tables_)
+        for (int i = 1; i <= problem.productCount; ++i) table.columns.put(i, problem.products(i));
     countBox_->settle();
-}
-
-void INPOL::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
-}
-
-void INPOL::fillBlankCells() {
-    for (DataGrid* grid : grids_) fillBlanks(*grid);
+    sensitivity_.reset();
 }
 
 Problem INPOL::readControls() const {
     Problem problem;
-    problem.label = txtLabel->text();
+    boxes_.take(problem);
     problem.productCount = productCount();
-    problem.timeFrame = val(txtTimeFrame->text());
-    problem.jointOrderAnswer = txtJointOrder->text();
-    problem.serviceIndexAnswer = txtServInd->text();
-    problem.sensitivityAnswer = txtSen->text();
-    problem.jointCost = val(txtJointCost->text());
-    problem.cycleTime = val(txtCycleTime->text());
-    problem.orderQuantityAnswer = txtOrderQuant->text();
-    for (std::size_t k = 0; k < grids_.size(); ++k) {
-        const ProductTable& table = productTables.at(k);
-        for (int i = 1; i <= problem.productCount; ++i) {
-            Product& product = problem.products(i);
-            product.*table.label = trimmed(grids_.at(k)->cell(i, labelColumn));
-            int col = firstValueColumn;
-            for (const auto value : table.values) product.*value = val(grids_.at(k)->cell(i, col++));
-        }
-    }
+    for (const ShownTable& table : tables_)
+        for (int i = 1; i <= problem.productCount; ++i) table.columns.take(i, problem.products(i));
     return problem;
 }
 
@@ -205,12 +163,10 @@ void INPOL::solve() {
     sensitivity_.reset();
     Problem problem = readControls();
     PrintLines page;
-    writeReportFile(page);
     try {
         compute(problem, page);
-    } catch (...) {
-        // What was printed before the failure stays in the file.
-        writeReportFile(page);
+    } catch (const RuntimeError&) {
+        writeReportFile(page); // what was printed before the failure stays in the file
         throw;
     }
     writeReportFile(page);
@@ -235,14 +191,12 @@ void INPOL::printData() {
     page.line("                         INVENTORY CONTROL DATA");
     page.line("");
     for (const Question& question : questions_) {
-        if (question.answer == txtJointCost) page.line("").line("JOINT-ORDER PARAMETERS");
-        if (question.answer == txtOrderQuant) page.line("").line("INDIVIDUAL-ORDER PARAMETER");
+        if (question.answer->name == "txtJointCost") page.line("").line("JOINT-ORDER PARAMETERS");
+        if (question.answer->name == "txtOrderQuant") page.line("").line("INDIVIDUAL-ORDER PARAMETER");
         page.line(question.prompt + " " + question.answer->text());
     }
     printTables(page, readControls());
-    PrintJob job{.title = names().name};
-    printOn(job, page);
-    print(job);
+    print(plainJob(wording().name, page));
 }
 
 // Plot

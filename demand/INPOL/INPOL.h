@@ -9,8 +9,9 @@
 #include "demand/INPOL/plot.h"
 #include "demand/INPOL/problem.h"
 #include "demand/INPOL/sensitivity.h"
+#include "shell/fields.h"
+#include "shell/grid_columns.h"
 #include "shell/module_frame.h"
-#include "shell/row_count_box.h"
 
 namespace vantore::inpol {
 
@@ -23,21 +24,22 @@ class INPOL : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
-    void fillBlankCells() override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
+    void solve() override;
+    void printData() override;
 
   private:
     void addQuestions();
-    void addGrids();
-    void addDataButtons();
-    void addOutcomeButtons();
+    TextBox& ask(FieldColumn column, const std::string& name, const std::string& prompt);
+    void addTables();
+    void addCountBox();
+    void addOutcome();
 
-    int productCount() const { return grdDemand->rowCount; }
-    void appendProduct(DataGrid& grid);
+    int productCount() const { return tables_[0].rows->grid().rowCount(); }
+    void setProductCount(int count);
+    void appendProduct(const GridRows& rows);
 
-    void solve();
     void compute(Problem& problem, PrintLines& page);
-    void printData();
     void plot();
     void askAndPlot();
     PlottedSystem askSystem();
@@ -46,30 +48,23 @@ class INPOL : public ModuleFrame {
 
     Problem readControls() const;
 
-    TextBox* txtLabel = nullptr;
+    Fields<Problem> boxes_;
     TextBox* txtNoPrd = nullptr;
-    TextBox* txtTimeFrame = nullptr;
-    TextBox* txtJointOrder = nullptr;
-    TextBox* txtServInd = nullptr;
-    TextBox* txtSen = nullptr;
-    TextBox* txtJointCost = nullptr;
-    TextBox* txtCycleTime = nullptr;
-    TextBox* txtOrderQuant = nullptr;
-    DataGrid* grdDemand = nullptr;
-    DataGrid* grdPrice = nullptr;
-    DataGrid* grdMisc = nullptr;
-    Chart* chtPlot = nullptr;
 
-    /// The boxes with their prompts, in the order of the file.
+    /// The boxes with their prompts, in the order of the printed data.
     struct Question {
         std::string prompt;
-        TextBox* answer;
+        const TextBox* answer;
     };
     std::vector<Question> questions_;
 
-    std::array<DataGrid*, 3> grids_{}; // in the order of `productTables`
-
-    std::unique_ptr<RowCountBox> countBox_;
+    struct ShownTable {
+        GridRows* rows = nullptr;
+        GridColumns<Product> columns;
+    };
+    std::array<ShownTable, 3> tables_; // in the order of `productTables`
+    SizeBox* countBox_ = nullptr;
+    Chart* chtPlot = nullptr;
 
     double keptLookup_ = 0; // lives as long as the window: solves follow on each other
     std::optional<Sensitivity> sensitivity_;

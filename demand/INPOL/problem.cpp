@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstddef>
 
 #include "shell/base/text.h"
 
@@ -71,36 +70,23 @@ std::string skeleton() {
 
 Problem read(ItemReader& reader) {
     Problem problem;
-    problem.label = reader.readString();
+    const std::span<const Field<Problem>> fields = boxFields;
+    readFields(reader, problem, fields.first(1));
     problem.productCount = reader.readCount(mostProducts);
-    problem.timeFrame = reader.readNumber();
-    problem.jointOrderAnswer = reader.readString();
-    problem.serviceIndexAnswer = reader.readString();
-    problem.sensitivityAnswer = reader.readString();
-    problem.jointCost = reader.readNumber();
-    problem.cycleTime = reader.readNumber();
-    problem.orderQuantityAnswer = reader.readString();
+    readFields(reader, problem, fields.subspan(1));
     for (const ProductTable& table : productTables)
-        for (int i = 1; i <= problem.productCount; ++i) {
-            Product& product = problem.products(i);
-            product.*table.label = reader.readString();
-            for (const auto value : table.values) product.*value = reader.readNumber();
-        }
+        for (int i = 1; i <= problem.productCount; ++i) readFields(reader, problem.products(i), table.fields);
     return problem;
 }
 
 void write(const Problem& problem, ItemWriter& writer) {
-    writer.string(problem.label).number(problem.productCount).number(problem.timeFrame);
-    writer.string(problem.jointOrderAnswer).string(problem.serviceIndexAnswer);
-    writer.string(problem.sensitivityAnswer).number(problem.jointCost).number(problem.cycleTime);
-    writer.string(problem.orderQuantityAnswer).endLine();
+    const std::span<const Field<Problem>> fields = boxFields;
+    writeFields(writer, problem, fields.first(1));
+    writer.number(problem.productCount);
+    writeFields(writer, problem, fields.subspan(1));
+    writer.endLine();
     for (const ProductTable& table : productTables)
-        for (int i = 1; i <= problem.productCount; ++i) {
-            const Product& product = problem.products(i);
-            writer.label(product.*table.label);
-            for (const auto value : table.values) writer.number(product.*value);
-            writer.endLine();
-        }
+        for (int i = 1; i <= problem.productCount; ++i) writeRow(writer, problem.products(i), table.fields);
 }
 
 } // namespace vantore::inpol

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <span>
 #include <string>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::inpol {
@@ -32,24 +33,26 @@ struct Product {
     double serviceIndex = 0; ///< probability of no stockout while waiting for an order
 };
 
-/// The columns of one grid in their order, which is the order of the file too.
+/// The columns of one grid in their order, which is the order of the file too: the label, then values.
 struct ProductTable {
-    std::string Product::*label;
-    std::span<double Product::*const> values;
+    std::span<const Field<Product>> fields;
+
+    std::string Product::*label() const { return std::get<std::string Product::*>(fields.front()); }
+    std::size_t valueCount() const { return fields.size() - 1; }
+    double Product::*value(std::size_t k) const { return std::get<double Product::*>(fields[k + 1]); }
 };
 
-inline constexpr std::array<double Product::*, 4> demandValues = {
-    &Product::avgDemand, &Product::sdDemand, &Product::avgLeadTime, &Product::sdLeadTime};
-inline constexpr std::array<double Product::*, 5> priceValues = {&Product::unitPrice, &Product::transportRate,
-                                                                 &Product::carryingCost, &Product::orderCost,
-                                                                 &Product::stockoutCost};
-inline constexpr std::array<double Product::*, 3> miscValues = {
-    &Product::initialInventory, &Product::orderQuantity, &Product::serviceIndex};
+inline constexpr std::array<Field<Product>, 5> demandFields = {&Product::demandLabel, &Product::avgDemand,
+                                                               &Product::sdDemand, &Product::avgLeadTime,
+                                                               &Product::sdLeadTime};
+inline constexpr std::array<Field<Product>, 6> priceFields = {
+    &Product::priceLabel,   &Product::unitPrice, &Product::transportRate,
+    &Product::carryingCost, &Product::orderCost, &Product::stockoutCost};
+inline constexpr std::array<Field<Product>, 4> miscFields = {&Product::miscLabel, &Product::initialInventory,
+                                                             &Product::orderQuantity, &Product::serviceIndex};
 
 /// Demand and lead time, price and cost, miscellaneous.
-inline constexpr std::array<ProductTable, 3> productTables = {{{&Product::demandLabel, demandValues},
-                                                               {&Product::priceLabel, priceValues},
-                                                               {&Product::miscLabel, miscValues}}};
+inline constexpr std::array<ProductTable, 3> productTables = {{{demandFields}, {priceFields}, {miscFields}}};
 
 struct Problem {
     std::string label;
@@ -68,6 +71,17 @@ struct Problem {
     bool wantsSensitivity() const;
     bool orderQuantitySpecified() const;
 };
+
+/// The members that the user edits in boxes, in their order in the file; the number of products follows the
+/// label.
+inline constexpr std::array<Field<Problem>, 8> boxFields = {&Problem::label,
+                                                            &Problem::timeFrame,
+                                                            &Problem::jointOrderAnswer,
+                                                            &Problem::serviceIndexAnswer,
+                                                            &Problem::sensitivityAnswer,
+                                                            &Problem::jointCost,
+                                                            &Problem::cycleTime,
+                                                            &Problem::orderQuantityAnswer};
 
 /// Time-frame units in a year: 365 calendar days, 250 working days, 52 weeks, 12 months, else 1.
 double periodsPerYear(double timeFrame);

@@ -158,10 +158,9 @@ void printTable(PrintLines& page, const Problem& problem, std::size_t which) {
     printHeadings(page, tableHeadings().at(which));
     for (int i = 1; i <= problem.productCount; ++i) {
         const Product& product = problem.products(i);
-        page.right(4, format(i, "##0")).tab(labelColumn).text(product.*table.label);
-        for (std::size_t k = 0; k < table.values.size(); ++k)
-            page.right(valueEnd(k, table.values.size()),
-                       format(product.*table.values[k], printed.masks.at(k)));
+        page.right(4, format(i, "##0")).tab(labelColumn).text(product.*table.label());
+        for (std::size_t k = 0; k < table.valueCount(); ++k)
+            page.right(valueEnd(k, table.valueCount()), format(product.*table.value(k), printed.masks.at(k)));
         page.endLine();
     }
 }

@@ -8,17 +8,25 @@
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
+#include "shell/printing.h"
 
 namespace vantore::mulreg {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "MULREG",
-                                 .filePrefix = "REG",
-                                 .openTitle = "Open multiple regression data file",
-                                 .saveTitle = "Save multiple regression data",
-                                 .filter = "Multiple regression (REG*.dat)|REG*.dat|",
-                                 .saveFilter = "Multiple regression analysis (REG*.dat)|REG*.dat|"};
+const ModuleWording mulregWording = {
+    .name = "MULREG",
+    .filePrefix = "REG",
+    .openTitle = "Open multiple regression data file",
+    .saveTitle = "Save multiple regression data",
+    .filter = "Multiple regression (REG*.dat)|REG*.dat|",
+    .saveFilter = "Multiple regression analysis (REG*.dat)|REG*.dat|",
+    .arithmetic = {.oneColumn = {"Highlight only one column.", "FORECAST"}},
+    .printQuestion =
+        {.text = "Select YES to print.  For a higher resolution picture, choose NO. Then, paste, edit, "
+                 "and print the captured Windows' clipboard image from another program such as WORD or "
+                 "POWERPOINT"},
+    .printFailure = "The form can't be printed."};
 
 constexpr const char* workingFile = "RGDAT.DAT";
 
@@ -26,7 +34,7 @@ constexpr const char* workingFile = "RGDAT.DAT";
 constexpr double fieldTop = 500;
 constexpr double fieldStep = 380;
 constexpr double boxHeight = 315;
-constexpr double captionDrop = 30; // a caption beside a box
+constexpr double captionDrop = 30; // of a caption beside its box
 constexpr double captionHeight = 270;
 constexpr double variableLeft = 1780;
 constexpr double variableStep = 1540;
@@ -41,37 +49,27 @@ std::string variableCaption(const char* before, int column) {
 
 } // namespace
 
-MULREG::MULREG(Suite& suite) : ModuleFrame(suite, moduleNames) {
-    printFailure = "The form can't be printed.";
-    arithmetic.oneColumn.title = "FORECAST";
-    printQuestion.text =
-        "Select YES to print.  For a higher resolution picture, choose NO. Then, paste, edit, and print the "
-        "captured Windows' clipboard image from another program such as WORD or POWERPOINT";
+MULREG::MULREG(Suite& suite) : ModuleFrame(suite, mulregWording) {
     addFields();
     addVariableBoxes();
-    addGrid();
+    addObservations();
     addButtons();
-    addOutcome();
-    showView(View::Start);
 }
 
 void MULREG::addFields() {
-    const auto fields = {View::Start, View::Data};
-    addLabel("lblLabel", "Problem label:", {120, 150, 1600, captionHeight}, fields);
-    txtLabel = &addTextBox("txtLabel", {variableLeft, 120, 7640, boxHeight});
-    const auto field = [&](const char* name, const char* text, int row, bool right) {
-        const double top = fieldTop + row * fieldStep;
-        addLabel(std::string("lbl") + name, text,
-                 {right ? 5200.0 : 120.0, top + captionDrop, 3000, captionHeight}, fields);
-        return &addTextBox(std::string("txt") + name, {right ? 8360.0 : 3400.0, top, 1060, boxHeight});
-    };
-    txtNoObs = field("NoObs", "Number of observations:", 0, false);
-    txtFenter = field("Fenter", "Incremental F-level for entering variable: ", 1, false);
-    txtFleave = field("Fleave", "Incremental F-level for leaving variable: ", 2, false);
-    txtStepwise = field("Stepwise", "Want a stepwise regression (Y/N)?", 0, true);
-    txtErrorAnalysis = field("ErrorAnalysis", "Want an error analysis (Y/N)?", 1, true);
-    txtFleave->tip =
+    FieldColumn label{.left = 120, .top = 120, .captionWidth = 1600, .boxWidth = 7640};
+    FieldColumn left{.left = 120, .top = fieldTop, .captionWidth = 3220, .boxWidth = 1060, .step = fieldStep};
+    FieldColumn right{
+        .left = 5200, .top = fieldTop, .captionWidth = 3100, .boxWidth = 1060, .step = fieldStep};
+    auto& txtLabel = addField(label, "txtLabel", "Problem label:");
+    txtNoObs = &addField(left, "txtNoObs", "Number of observations:");
+    auto& txtFenter = addField(left, "txtFenter", "Incremental F-level for entering variable: ");
+    auto& txtFleave = addField(left, "txtFleave", "Incremental F-level for leaving variable: ");
+    auto& txtStepwise = addField(right, "txtStepwise", "Want a stepwise regression (Y/N)?");
+    auto& txtErrorAnalysis = addField(right, "txtErrorAnalysis", "Want an error analysis (Y/N)?");
+    txtFleave.tip =
         "Keep it at or below the F-level for entering, or variables may enter and leave by turns.";
+    boxes_ = {boxFields, {&txtLabel, &txtStepwise, &txtFenter, &txtFleave, &txtErrorAnalysis}};
 }
 
 void MULREG::addVariableBoxes() {
@@ -91,74 +89,41 @@ void MULREG::addVariableBoxes() {
     }
 }
 
-void MULREG::addGrid() {
-    grdObs = &addMainGrid("grdObs", {120, gridTop, 9360, gridBottom - gridTop}, mostObservations);
-    grdObs->setCols(columnCount + 1);
-    grdObs->setCell(0, 0, "Obs\r\nno.");
-    grdObs->setColWidth(0, 760);
-    for (int column = 1; column <= columnCount; ++column) {
-        grdObs->setCell(0, column, variableCaption("Data for\r\nvar. #", column));
-        grdObs->setColWidth(column, 1640);
-    }
-    grdObs->setRowHeight(0, 2 * designRowHeight);
-    grdObs->onInsertKey = [this] {
-        insertKeyRow(suite(), *grdObs, rowTitles);
-        countBox_->settle();
-    };
-    countBox_ = std::make_unique<RowCountBox>(*txtNoObs, std::vector{grdObs}, [this] {
-        message("Number of observations exceeds the allowed limit.");
-    });
+void MULREG::addObservations() {
+    GridRows& rows = addRowGrid("grdObs", {120, gridTop, 9360, gridBottom - gridTop}, mostObservations);
+    grdObs = &rows.grid();
+    std::vector<ColumnHeading> headings = {{"Obs\r\nno.", 760}};
+    for (int column = 1; column <= columnCount; ++column)
+        headings.push_back({variableCaption("Data for\r\nvar. #", column), 1640});
+    shapeColumns(*grdObs, headings);
+    grdObs->holdsNumbers = [](int column) { return column > 0; };
+    countBox_ = &addRowCountBox(*txtNoObs, rows,
+                                [this] { message("Number of observations exceeds the allowed limit."); });
 }
 
 void MULREG::addButtons() {
     addStart("cmdOpen", {1200, gridTop, 7200, 3500});
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
+    addDataButtons({});
     auto& cmdPlotData = addButton("cmdPlotData", "P&lot data", buttonPlace(0, 4), {View::Data, View::Report},
                                   [this] { plotData(); });
     setErrorPlace(cmdPlotData, " occurred in MULREG, cmdPlotData");
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
-    addButton("cmdAdd", "&Add row", buttonPlace(1, 0), {View::Data}, [this] {
-        addRow();
-        countBox_->settle();
-    });
-    addButton("cmdDelete", "&Delete row", buttonPlace(1, 1), {View::Data}, [this] {
-        deleteRow();
-        countBox_->settle();
-    });
-    addButton("cmdArith", "Colu&mn Arithmetic", buttonPlace(1, 2), {View::Data}, [this] {
-        columnArithmetic(suite(), *grdObs, arithmetic, [](int column) { return column > 0; });
-    });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(1, 3), {View::Data}, [this] { excelEdit(); });
     addButton("cmdTransform", "&Transform", buttonPlace(1, 4), {View::Data}, [this] { transform(); });
-}
-
-void MULREG::addOutcome() {
     addReport();
     grfPlot = &add<Chart>("grfPlot", Rect{120, 120, 9360, 6135});
     seenIn(*grfPlot, {View::Plot});
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report, View::Plot},
-                             [this] { continueToData(); });
-    addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
-    cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
+    addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
+    addPrintPlot();
 }
 
 // The problem and the controls
 
 void MULREG::readProblem(ItemReader& reader) {
     const Problem problem = read(reader);
-    txtLabel->setText(problem.label);
+    boxes_.show(problem);
     for (int column = 1; column <= columnCount; ++column) {
-        txtLabels(column)->setText(problem.variables(column).label);
-        txtTypes(column)->setText(problem.variables(column).type);
+        txtLabels(column)->show(problem.variables(column).label);
+        txtTypes(column)->show(problem.variables(column).type);
     }
-    txtStepwise->setText(problem.stepwise);
-    txtFenter->setText(defaultText(problem.enteringLevel));
-    txtFleave->setText(defaultText(problem.leavingLevel));
-    txtErrorAnalysis->setText(problem.errorAnalysis);
     setDataRows(*grdObs, problem.observationCount);
     countBox_->settle();
     for (int i = 1; i <= problem.observationCount; ++i)
@@ -168,30 +133,16 @@ void MULREG::readProblem(ItemReader& reader) {
 
 Problem MULREG::readControls() const {
     Problem problem;
-    problem.label = txtLabel->text();
+    boxes_.take(problem);
     for (int column = 1; column <= columnCount; ++column) {
         const std::string type = trimmed(txtTypes(column)->text());
         problem.variables(column) = {trimmed(txtLabels(column)->text()), type.empty() ? role::unused : type};
     }
-    problem.stepwise = txtStepwise->text();
-    problem.enteringLevel = val(txtFenter->text());
-    problem.leavingLevel = val(txtFleave->text());
-    problem.errorAnalysis = txtErrorAnalysis->text();
-    problem.observationCount = grdObs->rowCount;
+    problem.observationCount = grdObs->rowCount();
     for (int i = 1; i <= problem.observationCount; ++i)
         for (int column = 1; column <= columnCount; ++column)
             problem.data(i, column) = val(grdObs->cell(i, column));
     return problem;
-}
-
-void MULREG::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
-}
-
-void MULREG::fillBlankCells() {
-    for (int i = 1; i < grdObs->rows() && i <= grdObs->rowCount; ++i)
-        for (int column = 1; column <= columnCount; ++column)
-            if (grdObs->cell(i, column).empty()) grdObs->setCell(i, column, "0");
 }
 
 // Transformation
@@ -218,27 +169,18 @@ void MULREG::transform() {
         a = numberFrom(answer);
     }
     // All values are computed before the first cell changes: a value that can't be leaves the column whole.
-    std::vector<Edit> edits;
-    for (int i = 1; i <= grdObs->rowCount; ++i) {
-        const std::string& before = grdObs->cell(i, *column);
-        edits.push_back({.grid = grdObs,
-                         .row = i,
-                         .col = *column,
-                         .before = before,
-                         .after = defaultText(transformed(val(before), *transformation, a))});
-    }
-    for (const Edit& edit : edits) grdObs->setCell(edit.row, edit.col, edit.after);
-    history().recordStep(std::move(edits));
+    std::vector<std::string> texts;
+    for (int i = 1; i <= grdObs->rowCount(); ++i)
+        texts.push_back(defaultText(transformed(val(grdObs->cell(i, *column)), *transformation, a)));
+    int row = 1;
+    for (std::string& text : texts) grdObs->setCell(row++, *column, std::move(text));
 }
 
 // Solve
 
 void MULREG::solve() {
     const Problem problem = readControls();
-    if (const auto found = fault(problem)) {
-        message(*found);
-        return continueToData();
-    }
+    if (const auto found = fault(problem)) return backToData({*found, ""});
     const Busy busy(suite());
     const Observations observations = throughWorkingFile(problem);
     std::optional<Regression> regression;
@@ -259,7 +201,6 @@ Observations MULREG::throughWorkingFile(const Problem& problem) {
 
 void MULREG::printData() {
     const Problem problem = readControls();
-    PrintJob job = dataPrint("MULTIPLE REGRESSION DATA");
     PrintLines page;
     page.line("Title: " + problem.label);
     page.line(joined("Number of observations: ", problem.observationCount));
@@ -282,8 +223,7 @@ void MULREG::printData() {
             page.right(5 + 13 * column, format(problem.data(i, column), "###,##0.0####"));
         page.endLine();
     }
-    printOn(job, page);
-    print(job);
+    print(dataJob(wording().name, "MULTIPLE REGRESSION DATA", page));
 }
 
 // Plot

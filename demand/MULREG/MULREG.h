@@ -1,12 +1,13 @@
 #pragma once
 
-#include <memory>
 #include <optional>
+#include <string>
 
 #include "demand/MULREG/problem.h"
 #include "demand/MULREG/report.h"
+#include "shell/fields.h"
+#include "shell/grid_columns.h"
 #include "shell/module_frame.h"
-#include "shell/row_count_box.h"
 
 namespace vantore::mulreg {
 
@@ -18,37 +19,31 @@ class MULREG : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
-    void fillBlankCells() override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
+    void solve() override;
+    void printData() override;
 
   private:
     void addFields();
     void addVariableBoxes();
-    void addGrid();
+    void addObservations();
     void addButtons();
-    void addOutcome();
 
     void transform();
     std::optional<int> columnToTransform();
-    void solve();
     Observations throughWorkingFile(const Problem& problem);
-    void printData();
     void plotData();
     std::optional<int> askColumn(const std::string& prompt);
 
     Problem readControls() const;
 
-    TextBox* txtLabel = nullptr;
+    Fields<Problem> boxes_;
     TextBox* txtNoObs = nullptr;
-    TextBox* txtFenter = nullptr;
-    TextBox* txtFleave = nullptr;
-    TextBox* txtStepwise = nullptr;
-    TextBox* txtErrorAnalysis = nullptr;
     Table<TextBox*, 1, columnCount> txtLabels;
     Table<TextBox*, 1, columnCount> txtTypes;
     DataGrid* grdObs = nullptr;
+    SizeBox* countBox_ = nullptr;
     Chart* grfPlot = nullptr;
-    std::unique_ptr<RowCountBox> countBox_;
 };
 
 } // namespace vantore::mulreg

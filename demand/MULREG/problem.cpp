@@ -50,13 +50,11 @@ std::string skeleton() {
 
 Problem read(ItemReader& reader) {
     Problem problem;
-    problem.label = reader.readString();
+    const std::span<const Field<Problem>> fields = boxFields;
+    readFields(reader, problem, fields.first(1));
     for (Variable& variable : problem.variables.span()) variable.label = reader.readString();
     for (Variable& variable : problem.variables.span()) variable.type = reader.readString();
-    problem.stepwise = reader.readString();
-    problem.enteringLevel = reader.readNumber();
-    problem.leavingLevel = reader.readNumber();
-    problem.errorAnalysis = reader.readString();
+    readFields(reader, problem, fields.subspan(1));
     problem.observationCount = reader.readCount(mostObservations);
     for (int i = 1; i <= problem.observationCount; ++i)
         for (double& value : problem.data.row(i)) value = reader.readNumber();
@@ -64,13 +62,13 @@ Problem read(ItemReader& reader) {
 }
 
 void write(const Problem& problem, ItemWriter& writer) {
-    writer.string(problem.label);
+    const std::span<const Field<Problem>> fields = boxFields;
+    writeFields(writer, problem, fields.first(1));
     for (const Variable& variable : problem.variables.span()) writer.string(variable.label);
     for (const Variable& variable : problem.variables.span())
         writer.string(variable.type.empty() ? role::unused : variable.type);
-    writer.string(problem.stepwise).number(problem.enteringLevel).number(problem.leavingLevel);
-    writer.string(problem.errorAnalysis).endLine();
-    writer.number(problem.observationCount).endLine();
+    writeFields(writer, problem, fields.subspan(1));
+    writer.endLine().number(problem.observationCount).endLine();
     for (int i = 1; i <= problem.observationCount; ++i) {
         for (const double value : problem.data.row(i)) writer.number(value);
         writer.endLine();

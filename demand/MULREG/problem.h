@@ -1,10 +1,11 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::mulreg {
@@ -34,6 +35,11 @@ struct Problem {
     int observationCount = 0;  ///< n
     Table2<double, 1, mostObservations, 1, columnCount> data;
 };
+
+/// The members that the user edits in boxes, in their order in the file; the variables follow the label.
+inline constexpr std::array<Field<Problem>, 5> boxFields = {&Problem::label, &Problem::stepwise,
+                                                            &Problem::enteringLevel, &Problem::leavingLevel,
+                                                            &Problem::errorAnalysis};
 
 /// The text of a new problem's file. Its F-levels, 4 and 3.9, are the customary ones of stepwise programs.
 std::string skeleton();

@@ -2,125 +2,82 @@
 
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
-#include "shell/base/text.h"
+#include "shell/printing.h"
 
 namespace vantore::cog {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "COG",
-                                 .filePrefix = "COG",
-                                 .openTitle = "Open center-of-gravity data file",
-                                 .saveTitle = "Save center-of-gravity data",
-                                 .filter = "Center of gravity (COG*.dat)|COG*.dat|",
-                                 .saveFilter = ""};
+const ModuleWording cogWording = {
+    .name = "COG",
+    .filePrefix = "COG",
+    .openTitle = "Open center-of-gravity data file",
+    .saveTitle = "Save center-of-gravity data",
+    .filter = "Center of gravity (COG*.dat)|COG*.dat|",
+    .rows = {.noRow = "COG", .limit = "COG"},
+    .arithmetic = {
+        .oneColumn = {"Highlight only one column", "Comment"},
+        .notApplicable = {"Column arithmetic does not apply to this column.", "Column arithmetic"},
+        .menuTitle = "Column Arithmetic",
+        .menuDefault = "Enter selection",
+        .valueTitles = {"Column Arithmetic", "Column Arithmetic", "Column Arithmetic", "Column Arithmetic"},
+        .valueDefault = "Enter selection"}};
 
 constexpr double surfaceWidth = 9520; // twips of the design
 constexpr double reportHeight = 6372;
 constexpr double plotHeight = 6422;
-constexpr int labelColumn = 1;
 
 } // namespace
 
-COG::COG(Suite& suite) : ModuleFrame(suite, moduleNames) {
-    rowTitles.noRow = rowTitles.limit = "COG";
-    arithmetic.oneColumn = {"Highlight only one column", "Comment"};
-    arithmetic.notApplicable.title = "Column arithmetic";
-    arithmetic.menuTitle = "Column Arithmetic";
-    arithmetic.menuDefault = "Enter selection";
-    arithmetic.valueTitles.fill("Column Arithmetic");
-    arithmetic.valueDefault = "Enter selection";
-    addFields();
-    addButtons();
-    showView(View::Start);
+COG::COG(Suite& suite) : ModuleFrame(suite, cogWording) {
+    addControls();
+    addStart();
+    addDataButtons({});
+    setErrorPlace(*cmdSolve, " occurred in COG Solver.");
+    addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
+    auto& cmdPlot = addButton("cmdPlot", "P&lot", buttonPlace(1, 2), {View::Report}, [this] { plot(); });
+    for (Button* button : {cmdPrintReport, &cmdPlot}) Seen(*button).when([this] { return hasOutcome_; });
+    addPrintPlot();
 }
 
-void COG::addFields() {
-    const auto fields = {View::Start, View::Data};
-    addLabel("lblLabel", "Problem label:", {120, 150, 1700, 270}, fields);
-    txtLabel = &addTextBox("txtLabel", {1860, 120, 7500, 315});
-    addLabel("lblPowerFactor", "Power factor (T):", {120, 570, 1700, 270}, fields);
-    txtPowerFactor = &addTextBox("txtPowerFactor", {1860, 540, 1100, 315}, "0.5");
-    txtPowerFactor->tip = "Use .5 for Euclidian distances and 1 for rectalinear distances.";
-    addLabel("lblMapFactor", "Map scaling factor (K):", {3400, 570, 2200, 270}, fields);
-    txtMapFactor = &addTextBox("txtMapFactor", {5640, 540, 1100, 315});
-    txtMapFactor->tip = "Factor to convert coordinates to miles or kilometers.";
-    COGGrid = &addMainGrid("COGGrid", {120, 1000, 9360, 5330}, mostPoints);
-    shapeGrid();
+void COG::addControls() {
+    FieldColumn label{.left = 120, .top = 120, .captionWidth = 1680, .boxWidth = 7500};
+    FieldColumn power{.left = 120, .top = 540, .captionWidth = 1680, .boxWidth = 1100};
+    FieldColumn map{.left = 3400, .top = 540, .captionWidth = 2180, .boxWidth = 1100};
+    auto& txtLabel = addField(label, "txtLabel", "Problem label:");
+    auto& txtPowerFactor = addField(power, "txtPowerFactor", "Power factor (T):");
+    auto& txtMapFactor = addField(map, "txtMapFactor", "Map scaling factor (K):");
+    txtPowerFactor.show("0.5");
+    txtPowerFactor.tip = "Use .5 for Euclidian distances and 1 for rectalinear distances.";
+    txtMapFactor.tip = "Factor to convert coordinates to miles or kilometers.";
+    scalars_ = {scalarFields, {&txtLabel, &txtPowerFactor, &txtMapFactor}};
+    COGGrid = &addRowGrid("COGGrid", {120, 1000, 9360, 5330}, mostPoints).grid();
+    points_ = {*COGGrid,
+               pointFields,
+               {{"Point no.", 900},
+                {" \r\nPoint label", 3000},
+                {"X coor-\r\ndinate", 1250},
+                {"Y coor-\r\ndinate", 1250},
+                {" \r\nVolume", 1400},
+                {"Transport\r\nrate", 1250}}};
     picOut = &add<PictureSurface>("picOut", Rect{0, 0, surfaceWidth, reportHeight}, scale());
     seenIn(*picOut, {View::Report, View::Plot});
 }
 
-void COG::shapeGrid() {
-    COGGrid->setCols(6);
-    const std::array<const char*, 6> captions = {"Point no.",         " \r\nPoint label",
-                                                 "X coor-\r\ndinate", "Y coor-\r\ndinate",
-                                                 " \r\nVolume",       "Transport\r\nrate"};
-    const std::array<double, 6> widths = {900, 3000, 1250, 1250, 1400, 1250};
-    for (int col = 0; col < 6; ++col) {
-        COGGrid->setCell(0, col, captions.at(static_cast<std::size_t>(col)));
-        COGGrid->setColWidth(col, widths.at(static_cast<std::size_t>(col)));
-    }
-    COGGrid->setRowHeight(0, 2 * designRowHeight);
-}
-
-void COG::addButtons() {
-    addStart();
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    auto& cmdSolve = addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    setErrorPlace(cmdSolve, " occurred in COG Solver.");
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
-    addButton("cmdAdd", "&Add row", buttonPlace(1, 0), {View::Data}, [this] { addRow(); });
-    addButton("cmdDelete", "&Delete row", buttonPlace(1, 1), {View::Data}, [this] { deleteRow(); });
-    addButton("cmdArith", "Colu&mn Arithmetic", buttonPlace(1, 2), {View::Data}, [this] {
-        columnArithmetic(suite(), *COGGrid, arithmetic, [](int col) { return col > labelColumn; });
-    });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(1, 3), {View::Data}, [this] { excelEdit(); });
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report, View::Plot},
-                             [this] { continueToData(); });
-    cmdPrintTB = &addButton("cmdPrintTB", "&Print", buttonPlace(1, 1), {View::Report},
-                            [this] { printWindowReport(*cmdPrintTB); });
-    cmdPlot = &addButton("cmdPlot", "P&lot", buttonPlace(1, 2), {View::Report}, [this] { plot(); });
-    cmdPrintPlot =
-        &addButton("cmdPrintPlot", "&Print", buttonPlace(1, 1), {View::Plot}, [this] { printPlotImage(); });
-}
+// The problem
 
 void COG::readProblem(ItemReader& reader) {
     const Problem problem = read(reader);
-    txtLabel->setText(problem.label);
-    txtPowerFactor->setText(defaultText(problem.powerFactor));
-    txtMapFactor->setText(defaultText(problem.mapFactor));
+    scalars_.show(problem);
     setDataRows(*COGGrid, problem.rowCount);
-    for (int i = 1; i <= problem.rowCount; ++i) {
-        const Point& point = problem.points(i);
-        COGGrid->setCell(i, 1, point.label);
-        COGGrid->setCell(i, 2, defaultText(point.x));
-        COGGrid->setCell(i, 3, defaultText(point.y));
-        COGGrid->setCell(i, 4, defaultText(point.volume));
-        COGGrid->setCell(i, 5, defaultText(point.rate));
-    }
-}
-
-void COG::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
+    for (int i = 1; i <= problem.rowCount; ++i) points_.put(i, problem.points(i));
 }
 
 Problem COG::readControls() const {
     Problem problem;
-    problem.label = txtLabel->text();
-    problem.powerFactor = val(txtPowerFactor->text());
-    problem.mapFactor = val(txtMapFactor->text());
-    problem.rowCount = COGGrid->rowCount;
-    for (int i = 1; i <= problem.rowCount; ++i) {
-        Point& point = problem.points(i);
-        point.label = trimmed(COGGrid->cell(i, 1));
-        point.x = val(COGGrid->cell(i, 2));
-        point.y = val(COGGrid->cell(i, 3));
-        point.volume = val(COGGrid->cell(i, 4));
-        point.rate = val(COGGrid->cell(i, 5));
-    }
+    scalars_.take(problem);
+    problem.rowCount = COGGrid->rowCount();
+    for (int i = 1; i <= problem.rowCount; ++i) points_.take(i, problem.points(i));
     return problem;
 }
 
@@ -134,33 +91,34 @@ void COG::prepareSurface(View view, double height) {
     picOut->ink = colour::black;
 }
 
-bool COG::solvable(const Problem& problem) {
-    auto fault = scalarFault(problem);
-    if (!fault && problem.powerFactor != .5) {
-        const std::string asked =
-            joined("The value for T is typically 0.5.  Is your value of ", problem.powerFactor);
-        message(asked + " correct?", "Value of power factor");
-    }
-    if (!fault) fault = pointFault(problem);
-    if (!fault) return true;
-    message(fault->text, fault->title);
-    continueToData();
-    return false;
+/// The first fault. A power factor other than .5 is asked about and no fault.
+std::optional<Message> COG::faultIn(const Problem& problem) {
+    if (auto fault = scalarFault(problem)) return fault;
+    if (problem.powerFactor != .5)
+        message(joined("The value for T is typically 0.5.  Is your value of ", problem.powerFactor) +
+                    " correct?",
+                "Value of power factor");
+    return pointFault(problem);
 }
 
 void COG::solve() {
+    hasOutcome_ = false;
     prepareSurface(View::Report, reportHeight);
-    cmdContinue->visible = cmdPrintTB->visible = cmdPlot->visible = false;
     const Problem problem = readControls();
-    if (!solvable(problem)) return;
+    if (const auto fault = faultIn(problem)) return backToData(*fault);
     printHeading(*picOut, scale(), problem.label);
     const std::string way = suite().inputBx("Facility coordinates:\r\n(1) Compute them\r\n(2) Specify them",
                                             "Solution options", "1");
-    cmdContinue->visible = true;
     if (way.empty()) return;
     if (way == "2") return specifyLocation(problem);
     if (way == "1") computeLocation(problem);
-    cmdPrintTB->visible = cmdPlot->visible = true;
+    hasOutcome_ = true;
+}
+
+void COG::showCycle(const Cycle& cycle, const Cycle& previous) {
+    facility_ = {cycle.location, cycle.cost};
+    printCycle(*picOut, scale(), cycle, previous);
+    hasOutcome_ = true;
 }
 
 void COG::computeLocation(const Problem& problem) {
@@ -169,15 +127,14 @@ void COG::computeLocation(const Problem& problem) {
     if (!start) message("All volume or rate data are 0", "Data error");
     Cycle cycle{0, start.value_or(Location{}), 0};
     cycle.cost = totalCost(problem, cycle.location);
-    printCycle(*picOut, scale(), cycle, cycle);
-    facility_ = {cycle.location, cycle.cost};
+    showCycle(cycle, cycle);
     while (suite().asksYes("Another computational cycle?", "Question")) {
+        hasOutcome_ = false;
         const Cycle previous = cycle;
         ++cycle.number;
         cycle.location = nextLocation(problem, previous.location);
         cycle.cost = totalCost(problem, cycle.location);
-        facility_ = {cycle.location, cycle.cost};
-        printCycle(*picOut, scale(), cycle, previous);
+        showCycle(cycle, previous);
     }
 }
 
@@ -190,14 +147,13 @@ void COG::specifyLocation(const Problem& problem) {
     const Location location{numberFrom(x), numberFrom(y)};
     facility_ = {location, totalCost(problem, location)};
     printSpecified(*picOut, scale(), x, y, facility_.totalCost);
-    cmdPrintTB->visible = cmdPlot->visible = true;
+    hasOutcome_ = true;
 }
 
 // Report and plot
 
 void COG::printData() {
     const Problem problem = readControls();
-    PrintJob job = dataPrint("EXACT CENTER-OF-GRAVITY METHOD RESULTS");
     PrintLines page;
     page.line("Title: " + problem.label);
     page.line(joined("Power Factor: ", problem.powerFactor));
@@ -216,8 +172,7 @@ void COG::printData() {
             .text(format(point.rate, "##,###.###0"));
         page.endLine();
     }
-    printOn(job, page);
-    print(job);
+    print(dataJob(wording().name, "EXACT CENTER-OF-GRAVITY METHOD RESULTS", page));
 }
 
 void COG::plot() {

@@ -6,6 +6,8 @@
 #include "location/COG/plot.h"
 #include "location/COG/problem.h"
 #include "location/COG/report.h"
+#include "shell/fields.h"
+#include "shell/grid_columns.h"
 #include "shell/module_frame.h"
 
 namespace vantore::cog {
@@ -19,32 +21,29 @@ class COG : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
+    void solve() override;
+    void printData() override;
+    void printReport() override { printWindowReport(); }
 
   private:
-    void addFields();
-    void addButtons();
-    void shapeGrid();
-
-    void solve();
+    void addControls();
     void computeLocation(const Problem& problem);
+    void showCycle(const Cycle& cycle, const Cycle& previous);
     void specifyLocation(const Problem& problem);
-    void printData();
     void plot();
 
     Problem readControls() const;
     void prepareSurface(View view, double height);
-    bool solvable(const Problem& problem);
+    std::optional<Message> faultIn(const Problem& problem);
 
-    TextBox* txtLabel = nullptr;
-    TextBox* txtPowerFactor = nullptr;
-    TextBox* txtMapFactor = nullptr;
-    DataGrid* COGGrid = nullptr;
     PictureSurface* picOut = nullptr;
-    Button* cmdPrintTB = nullptr;
-    Button* cmdPlot = nullptr;
+    Fields<Problem> scalars_;
+    GridColumns<Point> points_;
+    DataGrid* COGGrid = nullptr;
 
-    Facility facility_; // all 0 until a Solve has produced a location
+    Facility facility_;       // all 0 until a Solve has produced a location
+    bool hasOutcome_ = false; // the last Solve came to a report that can be printed and plotted
 };
 
 } // namespace vantore::cog

@@ -46,47 +46,30 @@ std::string skeleton() {
 
 Problem read(ItemReader& reader) {
     Problem problem;
-    problem.label = reader.readString();
-    problem.powerFactor = reader.readNumber();
-    problem.mapFactor = reader.readNumber();
+    readFields<Problem>(reader, problem, scalarFields);
     problem.rowCount = reader.readCount(mostPoints);
-    for (int i = 1; i <= problem.rowCount; ++i) {
-        Point& point = problem.points(i);
-        point.label = reader.readString();
-        point.x = reader.readNumber();
-        point.y = reader.readNumber();
-        point.volume = reader.readNumber();
-        point.rate = reader.readNumber();
-    }
+    for (int i = 1; i <= problem.rowCount; ++i) readFields<Point>(reader, problem.points(i), pointFields);
     return problem;
 }
 
 void write(const Problem& problem, ItemWriter& writer) {
-    writer.string(problem.label).number(problem.powerFactor).number(problem.mapFactor).endLine();
-    writer.number(problem.rowCount).endLine();
-    for (int i = 1; i <= problem.rowCount; ++i) {
-        const Point& point = problem.points(i);
-        writer.label(point.label)
-            .number(point.x)
-            .number(point.y)
-            .number(point.volume)
-            .number(point.rate)
-            .endLine();
-    }
+    writeFields<Problem>(writer, problem, scalarFields);
+    writer.endLine().number(problem.rowCount).endLine();
+    for (int i = 1; i <= problem.rowCount; ++i) writeRow<Point>(writer, problem.points(i), pointFields);
 }
 
-std::optional<Fault> scalarFault(const Problem& problem) {
-    if (problem.powerFactor == 0) return Fault{"No power factor (T) has been specified.", "COG"};
-    if (problem.mapFactor == 0) return Fault{"No map scaling factor (K) has been specified.", "COG"};
-    if (problem.rowCount == 0) return Fault{"At least one point is needed in the problem.", "COG"};
+std::optional<Message> scalarFault(const Problem& problem) {
+    if (problem.powerFactor == 0) return Message{"No power factor (T) has been specified.", "COG"};
+    if (problem.mapFactor == 0) return Message{"No map scaling factor (K) has been specified.", "COG"};
+    if (problem.rowCount == 0) return Message{"At least one point is needed in the problem.", "COG"};
     return std::nullopt;
 }
 
-std::optional<Fault> pointFault(const Problem& problem) {
+std::optional<Message> pointFault(const Problem& problem) {
     for (int i = 1; i <= problem.rowCount; ++i)
         for (const Range& range : ranges) {
             const double value = problem.points(i).*range.value;
-            if (value < 0 || value > range.most) return Fault{joined(range.text, i), range.title};
+            if (value < 0 || value > range.most) return Message{joined(range.text, i), range.title};
         }
     return std::nullopt;
 }

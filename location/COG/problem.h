@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/message.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::cog {
@@ -28,6 +30,12 @@ struct Problem {
     Table<Point, 1, mostPoints> points;
 };
 
+/// The members that the file holds and the user edits, in their order.
+inline constexpr std::array<Field<Problem>, 3> scalarFields = {&Problem::label, &Problem::powerFactor,
+                                                               &Problem::mapFactor};
+inline constexpr std::array<Field<Point>, 5> pointFields = {&Point::label, &Point::x, &Point::y,
+                                                            &Point::volume, &Point::rate};
+
 /// The text of a new problem's file.
 std::string skeleton();
 
@@ -38,15 +46,10 @@ Problem read(ItemReader& reader);
 /// Writes the items; labels without blanks at their ends, an empty one as one blank.
 void write(const Problem& problem, ItemWriter& writer);
 
-/// A text for the user and the title of its box.
-struct Fault {
-    std::string text, title;
-};
-
 /// The first of T, K and N that doesn't allow a solution.
-std::optional<Fault> scalarFault(const Problem& problem);
+std::optional<Message> scalarFault(const Problem& problem);
 
 /// The first point, in order, with a value out of range: X, Y, volume, rate.
-std::optional<Fault> pointFault(const Problem& problem);
+std::optional<Message> pointFault(const Problem& problem);
 
 } // namespace vantore::cog

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "mathprog/LNPROG/method.h"
 #include "mathprog/LNPROG/problem.h"
 #include "mathprog/matrix_grid.h"
@@ -19,29 +16,23 @@ class Lnprog : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
+    void solve() override;
+    void printData() override;
 
     /// An untouched cell stays untouched, in the window as in the file.
     void fillBlankCells() override {}
 
   private:
     void addFields();
+    void addSizes();
     void addButtons();
-    void addReportButtons();
 
-    std::optional<int> sizeToTake(TextBox& box, int shown, int most, const std::string& exceeded);
-    void takeRows();
-    void takeColumns();
-    void showSizes();
     void shapeGrid(int constraints, int variables);
     void showHeadings();
-    void fitColumn(int col);
+    void fitColumns();
     void showProblem(const Problem& problem);
     void typeKey(int code);
-    void computeColumn();
-
-    void solveProblem();
-    void printData();
 
     Problem readControls() const;
     void readRow(Problem& problem, int row) const;
@@ -56,7 +47,6 @@ class Lnprog : public ModuleFrame {
     TextBox* txtCols = nullptr;
     DataGrid* Grid = nullptr;
 
-    TypedReshape typedRows_, typedColumns_;
     bool sizesHeld_ = true; ///< From Open until Resize the size boxes don't change the grid.
     Simplex simplex_;       ///< Its `basis` lasts from solve to solve.
 };

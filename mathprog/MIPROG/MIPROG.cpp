@@ -1,7 +1,6 @@
 #include "mathprog/MIPROG/MIPROG.h"
 
 #include <algorithm>
-#include <array>
 
 #include "mathprog/MIPROG/exchange.h"
 #include "mathprog/MIPROG/report.h"
@@ -9,17 +8,17 @@
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
+#include "shell/forms/keys.h"
 
 namespace vantore::miprog {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "MIPROG",
-                                 .filePrefix = "ILP",
-                                 .openTitle = "Open integer programming data file",
-                                 .saveTitle = "Save integer programming data",
-                                 .filter = "Integer programming (ILP*.dat)|ILP*.dat|",
-                                 .saveFilter = ""};
+const ModuleWording miprogWording = {.name = "MIPROG",
+                                     .filePrefix = "ILP",
+                                     .openTitle = "Open integer programming data file",
+                                     .saveTitle = "Save integer programming data",
+                                     .filter = "Integer programming (ILP*.dat)|ILP*.dat|"};
 
 constexpr const char* solverProgram = "MIP.EXE";
 constexpr const char* solverReport = "OUTPUT.Dat";
@@ -46,58 +45,48 @@ constexpr const char* question =
 
 } // namespace
 
-MIPROG::MIPROG(Suite& suite) : ModuleFrame(suite, moduleNames) {
+MIPROG::MIPROG(Suite& suite) : ModuleFrame(suite, miprogWording) {
     addFields();
     addObjective();
-    addGrid();
+    addMatrix();
+    addSizes();
     addButtons();
-    showView(View::Start);
 }
 
 void MIPROG::addFields() {
-    const auto fields = {View::Start, View::Data};
-    addLabel("lblTitle", "Problem label:", {120, 150, 1500, 270}, fields);
-    txtTitle = &addTextBox("txtTitle", {1640, 120, 4800, 315}, "Enter label");
-    addLabel("lblRows", "Constraints:", {120, 570, 1500, 270}, fields);
-    txtRows = &addTextBox("txtRows", {1640, 540, 900, 315}, "1");
-    addLabel("lblCols", "Variables:", {3300, 570, 1500, 270}, fields);
-    txtCols = &addTextBox("txtCols", {4840, 540, 900, 315}, "1");
-    addLabel("lblConLabel", "Constraint label:", {120, 990, 1500, 270}, fields);
-    txtConLabel = &addTextBox("txtConLabel", {1640, 960, 1600, 315});
-    addLabel("lblVarLabel", "Variable label:", {3300, 990, 1500, 270}, fields);
-    txtVarLabel = &addTextBox("txtVarLabel", {4840, 960, 1600, 315});
-    txtRows->onChange = [this] { sizeTyped(*txtRows, mostRows, "rows"); };
-    txtCols->onChange = [this] { sizeTyped(*txtCols, mostColumns, "columns"); };
-    txtRows->onLeave = txtCols->onLeave = [this] { showSizes(); };
-    txtConLabel->onChange = [this] { labelTyped(*txtConLabel); };
-    txtVarLabel->onChange = [this] { labelTyped(*txtVarLabel); };
+    FieldColumn title{.left = 120, .top = 120, .captionWidth = 1460, .boxWidth = 4800};
+    FieldColumn left{.left = 120, .top = 540, .captionWidth = 1460, .boxWidth = 900};
+    FieldColumn right{.left = 3300, .top = 540, .captionWidth = 1480, .boxWidth = 900};
+    txtTitle = &addField(title, "txtTitle", "Problem label:");
+    txtTitle->show("Enter label");
+    txtRows = &addField(left, "txtRows", "Constraints:");
+    txtRows->show("1");
+    txtCols = &addField(right, "txtCols", "Variables:");
+    txtCols->show("1");
+    left.boxWidth = right.boxWidth = 1600;
+    txtConLabel = &addField(left, "txtConLabel", "Constraint label:");
     txtConLabel->tip = "Label of the selected constraint";
+    txtVarLabel = &addField(right, "txtVarLabel", "Variable label:");
     txtVarLabel->tip = "Label of the selected variable. The solver's report leaves off its first character.";
 }
 
 void MIPROG::addObjective() {
-    auto& frame = add<Frame>("fraObjective", Rect{6700, 90, 2700, 1185});
-    frame.caption = "OBJECTIVE";
-    seenIn(frame, {View::Start, View::Data});
-    const auto addOption = [&](const std::string& name, const std::string& text, double top) {
-        auto& option = add<Option>(name, Rect{6900, top, 2300, 300});
-        option.caption = text;
-        option.frame = &frame;
-        seenIn(option, {View::Start, View::Data});
-        enabledByOpen(option);
-        return &option;
-    };
-    optMax = addOption("optMax", "Maximize", 400);
-    optMin = addOption("optMin", "Minimize", 800);
+    const auto& frame =
+        addContainer("fraObjective", "OBJECTIVE", {6700, 90, 2700, 1185}, {View::Start, View::Data});
+    optMax = &addOption("optMax", "Maximize", {6900, 400, 2300, 300}, frame);
+    optMin = &addOption("optMin", "Minimize", {6900, 800, 2300, 300}, frame);
     optMax->selected = true;
 }
 
-void MIPROG::addGrid() {
-    Grid = &addMainGrid("Grid", {120, 1400, 9360, 4950}, mostRows);
+void MIPROG::addMatrix() {
+    Grid = &addGrid("Grid", {120, 1400, 9360, 4950});
     Grid->onKey = [this](int code) { cellKey(code); };
-    Grid->onInsertKey = {};
     Grid->onCellClick = [this](int row, int col) { cycleType(row, col); };
     Grid->onMove = [this] { showLabels(); };
+    Grid->onEdit = [this] { fitColumns(); };
+    Grid->holdsNumbers = [this](int col) {
+        return col >= 1 && col <= rhsColumn() && col != relationColumn();
+    };
     Grid->tip =
         "Click in the row \"Var. type\" for a continuous, an integer (INT) or a binary (0,1) variable.";
     Grid->setRows(1 + 1 + roleRows);
@@ -105,23 +94,34 @@ void MIPROG::addGrid() {
     showHeadings();
 }
 
+void MIPROG::addSizes() {
+    rowsBox_ =
+        &addSizeBox(*txtRows, {Grid},
+                    {.least = 1,
+                     .most = mostRows,
+                     .present = [this] { return m(); },
+                     .shape = [this](int rows) { shape(rows, n()); },
+                     .onExcess = [this] { message("Maximum number of rows (50) has been exceeded"); }});
+    columnsBox_ =
+        &addSizeBox(*txtCols, {Grid},
+                    {.least = 1,
+                     .most = mostColumns,
+                     .present = [this] { return n(); },
+                     .shape = [this](int cols) { shape(m(), cols); },
+                     .onExcess = [this] { message("Maximum number of columns (99) has been exceeded"); }});
+}
+
 void MIPROG::addButtons() {
     addStart("cmdOpen", {1200, 1500, 7200, 4800});
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
-    addButton("cmdColArith", "Colu&mn Arithmetic", buttonPlace(1, 0), {View::Data},
-              [this] { arithmeticOnColumn(); });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(1, 1), {View::Data}, [this] { excelEdit(); });
+    addDataButtons({.arithmetic = "cmdColArith",
+                    .rows = false,
+                    .arithmeticPlace = buttonPlace(1, 0),
+                    .excelPlace = buttonPlace(1, 1)});
     auto& resize =
         addButton("cmdResize", "Resi&ze", buttonPlace(1, 2), {View::Data}, [this] { showSizes(); });
     resize.tip = "Brings the numbers of constraints and variables into line with the grid.";
     addReport();
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Report},
-                             [this] { continueToData(); });
-    addButton("cmdPrintOut", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReport(); });
+    addOutcomeButtons({View::Report}, "cmdPrintOut");
 }
 
 // The grid's shape and headings
@@ -153,58 +153,26 @@ void MIPROG::fitColumns() {
 }
 
 void MIPROG::shape(int rows, int cols) {
-    history().clear();
     reshapeMatrix(*Grid, 1 + rows + roleRows, 1 + cols + roleColumns, roleRows, roleColumns);
     showHeadings();
 }
 
 /// The size boxes show the size that the grid has.
 void MIPROG::showSizes() {
-    settingBoxes_ = true;
-    txtRows->setText(std::to_string(m()));
-    txtCols->setText(std::to_string(n()));
-    settingBoxes_ = false;
-}
-
-void MIPROG::sizeTyped(TextBox& box, int most, const std::string& what) {
-    if (settingBoxes_ || box.text().empty()) return;
-    const double wanted = val(box.text());
-    if (wanted < 1) return;
-    if (wanted <= most) return reshapeTo(box, toInt32(wanted));
-    message("Maximum number of " + what + " (" + std::to_string(most) + ") has been exceeded");
-    if (&box == txtRows) reshapeTo(box, reshapeRows_.sizeBefore(*Grid, box.text()).rows - 1 - roleRows);
-    if (&box == txtCols) reshapeTo(box, reshapeColumns_.sizeBefore(*Grid, box.text()).cols - 1 - roleColumns);
-    showSizes();
-}
-
-/// Gives the grid the number of constraints or variables that was typed into its box.
-void MIPROG::reshapeTo(const TextBox& box, int size) {
-    history().clear();
-    if (&box == txtRows)
-        reshapeRows_(*Grid, box.text(), 1 + size + roleRows, Grid->cols(), roleRows, roleColumns);
-    else
-        reshapeColumns_(*Grid, box.text(), Grid->rows(), 1 + size + roleColumns, roleRows, roleColumns);
-    showHeadings();
+    rowsBox_->settle();
+    columnsBox_->settle();
 }
 
 /// The label boxes show the headings of the selected constraint and variable.
 void MIPROG::showLabels() {
-    settingBoxes_ = true;
     const int row = Grid->row();
     const int col = Grid->col();
     const bool constraint = row >= 1 && row <= m();
     const bool variable = col >= 1 && col <= n();
     txtConLabel->cell = constraint ? std::optional(CellReference{Grid, row, 0}) : std::nullopt;
     txtVarLabel->cell = variable ? std::optional(CellReference{Grid, 0, col}) : std::nullopt;
-    txtConLabel->setText(constraint ? Grid->cell(row, 0) : "");
-    txtVarLabel->setText(variable ? Grid->cell(0, col) : "");
-    settingBoxes_ = false;
-}
-
-void MIPROG::labelTyped(const TextBox& box) {
-    if (settingBoxes_ || !box.cell) return;
-    Grid->setCell(box.cell->row, box.cell->col, box.text());
-    fitColumns();
+    txtConLabel->show(constraint ? Grid->cell(row, 0) : "");
+    txtVarLabel->show(variable ? Grid->cell(0, col) : "");
 }
 
 // Typing
@@ -222,14 +190,10 @@ void MIPROG::cycleType(int row, int col) {
     Grid->setCell(row, col, nextType(Grid->cell(row, col)));
 }
 
-void MIPROG::arithmeticOnColumn() {
-    const auto holdsNumbers = [this](int col) {
-        return col >= 1 && col <= rhsColumn() && col != relationColumn();
-    };
+void MIPROG::computeColumn() {
     const int col = Grid->col();
     const std::string type = Grid->cell(typeRow(), col);
-    history().clear();
-    columnArithmetic(suite(), *Grid, arithmetic, holdsNumbers);
+    ModuleFrame::computeColumn();
     // A highlight over the whole column takes in the variable's type, which is no number.
     Grid->setCell(typeRow(), col, type);
 }
@@ -241,10 +205,11 @@ void MIPROG::readProblem(ItemReader& reader) {
 }
 
 void MIPROG::putProblem(const Problem& problem) {
-    txtTitle->setText(problem.label);
+    txtTitle->show(problem.label);
     optMax->selected = problem.maximize;
     optMin->selected = !problem.maximize;
-    reshapeRows_ = reshapeColumns_ = {};
+    // Nothing of the problem before stays, in cells without a number either.
+    for (int row = 1; row < Grid->rows(); ++row) Grid->clearRow(row);
     shape(problem.m, problem.n);
     for (int j = 1; j <= problem.n; ++j) {
         Grid->setCell(0, j, problem.columnLabel(j));
@@ -269,12 +234,12 @@ Problem MIPROG::readControls() const {
     problem.m = m();
     problem.n = n();
     for (int j = 1; j <= problem.n; ++j) {
-        problem.columnLabel(j) = Grid->cell(0, j);
+        problem.columnLabel(j) = trimmed(Grid->cell(0, j));
         problem.type(j) = Grid->cell(typeRow(), j);
         problem.objCoef(j) = val(Grid->cell(objectiveRow(), j));
     }
     for (int i = 1; i <= problem.m; ++i) {
-        problem.rowLabel(i) = Grid->cell(i, 0);
+        problem.rowLabel(i) = trimmed(Grid->cell(i, 0));
         for (int j = 1; j <= problem.n; ++j) problem.coef(i, j) = val(Grid->cell(i, j));
         problem.relation(i) = Grid->cell(i, relationColumn());
         problem.rhs(i) = val(Grid->cell(i, rhsColumn()));
@@ -293,17 +258,13 @@ void MIPROG::fillBlankCells() {
     for (int j = 1; j <= n(); ++j) fill(objectiveRow(), j);
 }
 
-void MIPROG::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
-}
-
 // Solve
 
 void MIPROG::solve() {
     const std::optional<SolverInput> input = solverInput(readControls());
     if (!input) return message("Error in variable type.  Check input data.");
     writeLines(suite().ioPath("TEMP.DAT"), temporaryLines(*input));
-    if (!suite().asksYes(question, names().name)) return;
+    if (!suite().asksYes(question, wording().name)) return;
     runSolver(solverProgram);
     std::vector<std::string> lines = readLines(suite().ioPath(solverReport));
     lines.insert(lines.begin(), resultsTitle);

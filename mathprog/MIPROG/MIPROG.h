@@ -15,13 +15,18 @@ class MIPROG : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
     void fillBlankCells() override;
+    void computeColumn() override;
+    void solve() override;
+    void printReport() override;
+    void printData() override;
 
   private:
     void addFields();
+    void addSizes();
     void addObjective();
-    void addGrid();
+    void addMatrix();
     void addButtons();
 
     // The grid: constraints 1 to m, the type row and the objective row; variables 1 to n, relation and
@@ -36,18 +41,10 @@ class MIPROG : public ModuleFrame {
     void showHeadings();
     void fitColumns();
     void showSizes();
-    void sizeTyped(TextBox& box, int most, const std::string& what);
-    void reshapeTo(const TextBox& box, int size);
     void shape(int rows, int cols);
     void cellKey(int code);
     void cycleType(int row, int col);
     void showLabels();
-    void labelTyped(const TextBox& box);
-    void arithmeticOnColumn();
-
-    void solve();
-    void printReport();
-    void printData();
 
     void putProblem(const Problem& problem);
     Problem readControls() const;
@@ -61,8 +58,8 @@ class MIPROG : public ModuleFrame {
     Option* optMin = nullptr;
     DataGrid* Grid = nullptr;
 
-    TypedReshape reshapeRows_, reshapeColumns_;
-    bool settingBoxes_ = false; // a box shows what the window has, which is no change by the user
+    SizeBox* rowsBox_ = nullptr;
+    SizeBox* columnsBox_ = nullptr;
 };
 
 } // namespace vantore::miprog

@@ -1,20 +1,25 @@
 #include "mathprog/TRANLP/TRANLP.h"
 
-#include "mathprog/matrix_grid.h"
-#include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
+#include "shell/printing.h"
 
 namespace vantore::tranlp {
 
 namespace {
 
-const ModuleNames moduleNames = {.name = "TRANLP",
-                                 .filePrefix = "TRAN",
-                                 .openTitle = "Open transportation method data file",
-                                 .saveTitle = "Save transportation method data",
-                                 .filter = "Transportation method (TRAN*.dat)|TRAN*.dat|",
-                                 .saveFilter = ""};
+const ModuleWording tranlpWording = {
+    .name = "TRANLP",
+    .filePrefix = "TRAN",
+    .openTitle = "Open transportation method data file",
+    .saveTitle = "Save transportation method data",
+    .filter = "Transportation method (TRAN*.dat)|TRAN*.dat|",
+    .arithmetic = {
+        .oneColumn = {"Highlight only one column.", "Information"},
+        .menuTitle = "Column Arithmetic",
+        .menuDefault = "Enter selection",
+        .valueTitles = {"Column Arithmetic", "Column Arithmetic", "Column Arithmetic", "Column Arithmetic"},
+        .valueDefault = "Enter a value"}};
 
 constexpr int mostTypedRows = 100; // of the matrix, with the demand row; the same for columns
 constexpr int mostAddedRows = 30;  // sources up to which a row may be added in the grid
@@ -24,101 +29,85 @@ constexpr double resultNameWidth = 800;
 
 } // namespace
 
-TRANLP::TRANLP(Suite& suite) : ModuleFrame(suite, moduleNames) {
-    arithmetic.oneColumn = {"Highlight only one column.", "Information"};
-    arithmetic.menuTitle = "Column Arithmetic";
-    arithmetic.menuDefault = "Enter selection";
-    arithmetic.valueTitles.fill("Column Arithmetic");
-    arithmetic.valueDefault = "Enter a value";
-    addLabel("lblProbLabel", "Problem label:", {120, 150, 1700, 270}, {View::Start, View::Data});
-    txtProbLabel = &addTextBox("txtProbLabel", {1860, 120, 7620, 315});
-    addSizeBoxes();
-    addLabelBoxes();
+TRANLP::TRANLP(Suite& suite) : ModuleFrame(suite, tranlpWording) {
+    addFields();
     addGrids();
+    addSizeBoxes();
     addDataButtons();
     addResultButtons();
-    showView(View::Start);
 }
 
-void TRANLP::addSizeBoxes() {
-    const auto fields = {View::Start, View::Data};
-    addLabel("lblRows", "No. of rows", {120, 570, 1700, 270}, fields);
-    txtRows = &addTextBox("txtRows", {1860, 540, 900, 315}, defaultText(newSize));
+void TRANLP::addFields() {
+    FieldColumn label{.left = 120, .top = 120, .captionWidth = 1680, .boxWidth = 7620};
+    FieldColumn left{.left = 120, .top = 540, .captionWidth = 1680, .boxWidth = 900};
+    FieldColumn right{.left = 4800, .top = 540, .captionWidth = 1680, .boxWidth = 900};
+    txtProbLabel = &addField(label, "txtProbLabel", "Problem label:");
+    txtRows = &addField(left, "txtRows", "No. of rows");
+    txtRows->show(defaultText(newSize));
     txtRows->tip = "No. of matrix rows including demand row";
-    txtRows->onChange = [this] { resize(*txtRows, "Maximum number of rows (100) has been exceeded"); };
-    addLabel("lblCols", "No. of columns", {4800, 570, 1700, 270}, fields);
-    txtCols = &addTextBox("txtCols", {6540, 540, 900, 315}, defaultText(newSize));
+    txtCols = &addField(right, "txtCols", "No. of columns");
+    txtCols->show(defaultText(newSize));
     txtCols->tip = "No. of colums including supply column";
-    txtCols->onChange = [this] { resize(*txtCols, "Maximum number of columns (100) has been exceeded"); };
-}
-
-void TRANLP::addLabelBoxes() {
-    const auto fields = {View::Start, View::Data};
-    addLabel("lblRowLabel", "Row label", {120, 990, 1700, 270}, fields);
-    txtRowLabel = &addTextBox("txtRowLabel", {1860, 960, 2800, 315});
-    addLabel("lblColLabel", "Column label", {4800, 990, 1700, 270}, fields);
-    txtColLabel = &addTextBox("txtColLabel", {6540, 960, 2940, 315});
+    left.boxWidth = 2800;
+    right.boxWidth = 2940;
+    txtRowLabel = &addField(left, "txtRowLabel", "Row label");
+    txtColLabel = &addField(right, "txtColLabel", "Column label");
 }
 
 void TRANLP::addGrids() {
-    Grid = &addMainGrid("Grid", {120, 1400, 9360, 4930}, mostAddedRows);
+    Grid = &addGrid("Grid", {120, 1400, 9360, 4930});
+    Grid->onKey = [this](int code) { typeKey(code); };
     Grid->onInsertKey = [this] { addSourceRow(false); };
     Grid->onDoubleClick = [this] { addSourceRow(true); };
     Grid->onMove = [this] { showLabels(); };
+    Grid->holdsNumbers = [](int col) { return col > 0; };
     clearGrid();
     shapeGrid(newSize - 1, newSize - 1);
     addLabel("Label6", "Results", {120, 150, 3000, 270}, {View::Result});
     GridOut = &add<DataGrid>("GridOut", Rect{120, 450, 9360, 5350});
-    seenIn(*GridOut, {View::Result});
-    addLabel("Label7", "Total cost:", {120, 5970, 1500, 270}, {View::Result});
+    GridOut->holdsNumbers = Grid->holdsNumbers;
+    auto& label = addLabel("Label7", "Total cost:", {120, 5970, 1500, 270}, {View::Result});
     txtTotalCost = &add<TextBox>("txtTotalCost", Rect{1860, 5940, 2800, 315});
-    seenIn(*txtTotalCost, {View::Result});
+    label.buddy = txtTotalCost;
+    for (Control* result : {static_cast<Control*>(GridOut), static_cast<Control*>(txtTotalCost)}) {
+        seenIn(*result, {View::Result});
+        result->result = true;
+    }
     addReport();
+}
+
+/// The sizes of the matrix with its demand row and its supply column.
+void TRANLP::addSizeBoxes() {
+    const auto refuse = [] { throw RuntimeError(ErrorNumber::SubscriptOutOfRange); };
+    rowsBox_ = &addSizeBox(
+        *txtRows, {Grid},
+        {.least = 1,
+         .most = mostTypedRows,
+         .present = [this] { return sources() + 1; },
+         .shape = [this](int rows) { shapeGrid(rows - 1, sinks()); },
+         .onExcess = [this] { message("Maximum number of rows (100) has been exceeded", "Warning"); },
+         .onShort = refuse});
+    columnsBox_ = &addSizeBox(
+        *txtCols, {Grid},
+        {.least = 1,
+         .most = mostTypedRows,
+         .present = [this] { return sinks() + 1; },
+         .shape = [this](int columns) { shapeGrid(sources(), columns - 1); },
+         .onExcess = [this] { message("Maximum number of columns (100) has been exceeded", "Warning"); },
+         .onShort = refuse});
 }
 
 void TRANLP::addDataButtons() {
     addStart("cmdOpen", {1200, 1400, 7200, 4800});
-    addButton("cmdSave", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
-    addButton("cmdSolve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
-    addButton("cmdPrintData", "P&rint data", buttonPlace(0, 3), {View::Data}, [this] { printData(); });
-    cmdExit = &addButton("cmdExit", "E&xit", buttonPlace(0, 5), {View::Start, View::Data},
-                         [this] { exitModule(); });
-    addButton("cmdColArith", "Colu&mn Arithmetic", buttonPlace(1, 2), {View::Data},
-              [this] { columnArithmetic(suite(), *Grid, arithmetic, [](int col) { return col > 0; }); });
-    addButton("cmdExcel", "&Excel edit", buttonPlace(1, 3), {View::Data}, [this] { excelEdit(); });
+    ModuleFrame::addDataButtons({.arithmetic = "cmdColArith", .rows = false});
 }
 
 void TRANLP::addResultButtons() {
-    cmdContinue = &addButton("cmdContinue", "&Continue", buttonPlace(1, 0), {View::Result, View::Report},
-                             [this] { continueToData(); });
+    addOutcomeButtons({View::Result, View::Report}, "cmdPrintReport");
     addButton("cmdReport", "&Report", buttonPlace(1, 1), {View::Result}, [this] { showReport(); });
-    addButton("cmdPrintReport", "&Print", buttonPlace(1, 1), {View::Report}, [this] { printReportFile(); });
 }
 
 // The shape of the grid
-
-/// A size box has been typed in. The box that was refused shows the size that the grid still has.
-void TRANLP::resize(TextBox& box, const char* excess) {
-    if (showsSizes_ || box.text().empty()) return;
-    try {
-        const double size = val(box.text());
-        if (size > mostTypedRows) {
-            message(excess, "Warning");
-            return showSizes();
-        }
-        const int places = toInt32(size - 1);
-        checkIndex(places, 0, mostTypedRows);
-        history().clear();
-        TypedReshape& typed = &box == txtRows ? typedRows_ : typedColumns_;
-        const int rows = &box == txtRows ? places + 2 : Grid->rows();
-        const int cols = &box == txtCols ? places + 2 : Grid->cols();
-        typed(*Grid, box.text(), rows, cols, 1, 1);
-        nameHeadings();
-    } catch (...) {
-        showSizes();
-        throw;
-    }
-}
 
 /// Cells stay in their row and column, supplies and demands with their source and sink.
 void TRANLP::shapeGrid(int newSources, int newSinks) {
@@ -133,7 +122,6 @@ void TRANLP::nameHeadings() {
     for (int j = 1; j <= sinks(); ++j)
         if (Grid->cell(0, j).empty()) Grid->setCell(0, j, defaultSinkName(j));
     Grid->setColWidth(0, nameWidth);
-    Grid->rowCount = sources();
     showLabels();
 }
 
@@ -146,11 +134,9 @@ void TRANLP::clearGrid() {
     Grid->setCell(1, 1, "");
 }
 
-void TRANLP::showSizes() {
-    showsSizes_ = true;
-    txtRows->setText(defaultText(sources() + 1));
-    txtCols->setText(defaultText(sinks() + 1));
-    showsSizes_ = false;
+void TRANLP::typeKey(int code) {
+    if (sources() <= 0) return message("Add a row before entering data.", "Information");
+    cellKeyPress(*Grid, code);
 }
 
 /// The label boxes show the headings of the current row and column, and are empty on the heading line.
@@ -159,8 +145,8 @@ void TRANLP::showLabels() {
     txtColLabel->cell.reset();
     if (Grid->row() > 0) txtRowLabel->cell = {Grid, Grid->row(), 0};
     if (Grid->col() > 0) txtColLabel->cell = {Grid, 0, Grid->col()};
-    txtRowLabel->setText(Grid->row() > 0 ? Grid->cell(Grid->row(), 0) : "");
-    txtColLabel->setText(Grid->col() > 0 ? Grid->cell(0, Grid->col()) : "");
+    txtRowLabel->show(Grid->row() > 0 ? Grid->cell(Grid->row(), 0) : "");
+    txtColLabel->show(Grid->col() > 0 ? Grid->cell(0, Grid->col()) : "");
 }
 
 // Adding a source
@@ -168,16 +154,16 @@ void TRANLP::showLabels() {
 /// Where a new source goes, 0 when it may not.
 int TRANLP::insertPosition(bool asks) {
     if (asks && Grid->row() < 1) {
-        message("Select a grid row before adding a record.", rowTitles.noRow);
+        message("Select a grid row before adding a record.", wording().rows.noRow);
         return 0;
     }
     if (sources() + 1 > mostAddedRows) {
-        message("Too many rows.  Limit is" + str(mostAddedRows), rowTitles.limit);
+        message("Too many rows.  Limit is" + str(mostAddedRows), wording().rows.limit);
         return 0;
     }
     if (!asks) return sources() + 1;
     const bool atEnd = suite().asksYes(
-        "Insert at end of list?  If no, insertion is at the designated grid row.", rowTitles.module);
+        "Insert at end of list?  If no, insertion is at the designated grid row.", wording().rows.question);
     return atEnd ? sources() + 1 : Grid->row();
 }
 
@@ -185,7 +171,6 @@ int TRANLP::insertPosition(bool asks) {
 void TRANLP::addSourceRow(bool asks) {
     const int position = insertPosition(asks);
     if (position == 0) return;
-    history().clear();
     shapeGrid(sources() + 1, sinks());
     for (int row = sources(); row > position; --row)
         for (int col = 0; col < Grid->cols(); ++col) Grid->setCell(row, col, Grid->cell(row - 1, col));
@@ -194,7 +179,7 @@ void TRANLP::addSourceRow(bool asks) {
         Grid->setCell(position, 0, defaultSourceName(position));
         renumberNames(position + 1);
     }
-    showSizes();
+    rowsBox_->settle();
     if (!asks) Grid->setCurrent(Grid->row(), 1);
     showLabels();
 }
@@ -209,12 +194,12 @@ void TRANLP::renumberNames(int from) {
 
 void TRANLP::readProblem(ItemReader& reader) {
     const ProblemFile file = read(reader);
-    txtProbLabel->setText(file.problem.label);
+    txtProbLabel->show(file.problem.label);
     clearGrid();
-    typedRows_ = typedColumns_ = {};
     shapeGrid(file.problem.sources, file.problem.sinks);
     putInCells(file);
-    showSizes();
+    rowsBox_->settle();
+    columnsBox_->settle();
     showLabels();
 }
 
@@ -230,10 +215,6 @@ void TRANLP::putInCells(const ProblemFile& file) {
         Grid->setCell(0, j, problem.sinkName(j));
         Grid->setCell(problem.sources + 1, j, defaultText(problem.demand(j)));
     }
-}
-
-void TRANLP::writeProblem(ItemWriter& writer) {
-    write(readControls(), writer);
 }
 
 /// The corner of supplies and demands stays as it is.
@@ -289,7 +270,7 @@ void TRANLP::showPlan() {
     }
     for (int j = 1; j <= problem.sinks; ++j) GridOut->setCell(lastRow, j, defaultText(plan.colTotal(j)));
     GridOut->setCell(lastRow, lastCol, "");
-    txtTotalCost->setText(defaultText(plan.totalCost));
+    txtTotalCost->show(defaultText(plan.totalCost));
 }
 
 void TRANLP::showReport() {
@@ -299,9 +280,7 @@ void TRANLP::showReport() {
 }
 
 void TRANLP::printData() {
-    PrintJob job = dataPrint("********* TRANLP INPUT DATA *********");
-    printOn(job, dataLines(readControls()));
-    print(job);
+    print(dataJob(wording().name, "********* TRANLP INPUT DATA *********", dataLines(readControls())));
 }
 
 } // namespace vantore::tranlp

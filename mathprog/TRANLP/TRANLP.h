@@ -19,12 +19,14 @@ class TRANLP : public ModuleFrame {
   protected:
     std::string defaultSkeleton() const override { return skeleton(); }
     void readProblem(ItemReader& reader) override;
-    void writeProblem(ItemWriter& writer) override;
+    void writeProblem(ItemWriter& writer) override { write(readControls(), writer); }
     void fillBlankCells() override;
+    void solve() override;
+    void printData() override;
 
   private:
+    void addFields();
     void addSizeBoxes();
-    void addLabelBoxes();
     void addGrids();
     void addDataButtons();
     void addResultButtons();
@@ -32,11 +34,10 @@ class TRANLP : public ModuleFrame {
     int sources() const { return Grid->rows() - 2; }
     int sinks() const { return Grid->cols() - 2; }
 
-    void resize(TextBox& box, const char* excess);
     void shapeGrid(int newSources, int newSinks);
     void nameHeadings();
     void clearGrid();
-    void showSizes();
+    void typeKey(int code);
     void showLabels();
     void addSourceRow(bool asks);
     int insertPosition(bool asks);
@@ -45,10 +46,8 @@ class TRANLP : public ModuleFrame {
     void putInCells(const ProblemFile& file);
     Problem readControls() const;
 
-    void solve();
     void showPlan();
     void showReport();
-    void printData();
 
     TextBox* txtProbLabel = nullptr;
     TextBox* txtRows = nullptr;
@@ -65,8 +64,8 @@ class TRANLP : public ModuleFrame {
         Plan plan;
     };
     std::optional<Solution> solution_;
-    TypedReshape typedRows_, typedColumns_;
-    bool showsSizes_ = false; // the size boxes follow the grid, not the grid the boxes
+    SizeBox* rowsBox_ = nullptr;
+    SizeBox* columnsBox_ = nullptr;
 };
 
 } // namespace vantore::tranlp

@@ -1,6 +1,5 @@
 #include "mathprog/TRANLP/problem.h"
 
-
 namespace vantore::tranlp {
 
 namespace {

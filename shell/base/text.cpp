@@ -183,6 +183,21 @@ std::vector<std::string> lines(std::string_view text) {
     return result;
 }
 
+std::vector<std::string> wrapped(std::string_view text, std::size_t width) {
+    std::vector<std::string> result;
+    for (std::string rest : lines(text)) {
+        while (length(rest) > width) {
+            const std::size_t inside = left(rest, width + 1).find_last_of(' ');
+            const std::size_t blank = inside != std::string::npos ? inside : rest.find(' ');
+            if (blank == std::string::npos) break;
+            result.push_back(trimmedRight(rest.substr(0, blank)));
+            rest = rest.substr(blank + 1);
+        }
+        result.push_back(std::move(rest));
+    }
+    return result;
+}
+
 std::string replaced(std::string_view text, std::string_view from, std::string_view to) {
     std::string result;
     std::size_t start = 0;

@@ -52,6 +52,10 @@ bool equalIgnoringCase(std::string_view a, std::string_view b);
 /// further line; an empty text has no line.
 std::vector<std::string> lines(std::string_view text);
 
+/// The lines of a text broken at blanks, so that none has more than `width` characters unless a single word
+/// has.
+std::vector<std::string> wrapped(std::string_view text, std::size_t width);
+
 /// `text` with every `from` replaced by `to`.
 std::string replaced(std::string_view text, std::string_view from, std::string_view to);
 

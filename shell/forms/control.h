@@ -4,7 +4,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
+
+#include "shell/forms/grid_cells.h"
 
 namespace vantore {
 
@@ -36,8 +39,32 @@ struct Font {
     bool operator==(const Font&) const = default;
 };
 
-class Frame;
-class TabControl;
+/// A block of cells, both corners included.
+struct CellBlock {
+    int startRow = 1;
+    int endRow = 1;
+    int startCol = 1;
+    int endCol = 1;
+};
+
+/// All that a user edits in a grid, and where he stands in it.
+struct GridContent {
+    GridCells cells;
+    std::vector<double> colWidths, rowHeights; ///< twips of the design
+    int rowCount = 0;
+    int row = 1, col = 1; ///< the current cell
+    CellBlock selection;
+
+    /// Equal cells; moving in a grid changes nothing.
+    bool operator==(const GridContent& other) const {
+        return rowCount == other.rowCount && cells == other.cells;
+    }
+};
+
+/// What a user can edit of a control: a box's text, whether a choice is selected, a grid's cells.
+using Content = std::variant<std::monostate, std::string, bool, GridContent>;
+
+class Container;
 
 /// Anything in a window that has a name. What a user sees of it is data; whoever draws it reads the data
 /// again after each step.
@@ -49,39 +76,40 @@ class Control {
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    /// Visible itself, in a shown frame, and on the selected page of its tab control.
+    /// Wants to be seen, in a shown container and on its selected page.
     bool shown() const;
+
+    bool enabled() const { return !usable || usable(); }
 
     /// The caption or text that the control shows.
     virtual std::string shownText() const { return caption; }
+
+    /// What a user can edit, and the same put back without telling anybody.
+    virtual Content content() const { return {}; }
+    virtual void restore(const Content& /*content*/) {}
 
     const std::string name;
     std::string caption; ///< An & marks the mnemonic letter.
     std::string tip;
     Rect design;
-    bool visible = true;
-    bool enabled = true;
-    double fontSize = 8; ///< Design size in points; drawn at fontSize x scale.
+    std::function<bool()> seen;   ///< Asked whenever the control is drawn; empty: always seen.
+    std::function<bool()> usable; ///< The same of being enabled.
+    bool result = false;          ///< Shows a result: not the user's to edit, and no part of the history.
+    double fontSize = 8;          ///< Design size in points; drawn at fontSize x scale.
     bool bold = false;
     int textColour = 0; ///< Palette number.
-    const Frame* frame =
-        nullptr; ///< The frame it stands in. Its design place counts from the window all the same.
-    const TabControl* tabs = nullptr; ///< The tab control on one of whose pages it stands.
-    int page = 0;                     ///< The page, from 0.
+    const Container* container =
+        nullptr;  ///< What it stands in. Its place counts from the window all the same.
+    int page = 0; ///< The container's page, from 0.
 };
 
-/// A frame around other controls; hiding it hides them.
-class Frame : public Control {
-  public:
-    using Control::Control;
-};
-
-/// A control of pages, one of which is selected.
-class TabControl : public Control {
+/// A frame around other controls, or with pages a tab control of which one page is selected. Hiding it hides
+/// what stands in it.
+class Container : public Control {
   public:
     using Control::Control;
 
-    std::vector<std::string> pages; ///< The captions.
+    std::vector<std::string> pages; ///< The captions; none in a frame.
     int selected = 0;
     std::function<void()> onSelect;
 };
@@ -93,21 +121,29 @@ class Button : public Control {
     std::function<void()> onPress;
 };
 
-/// One of several choices; pressing it clears the other options of the same frame.
-class Option : public Control {
+/// What is selected or not.
+class Choice : public Control {
   public:
     using Control::Control;
+
+    Content content() const override { return result ? Content{} : Content{selected}; }
+    void restore(const Content& content) override { selected = std::get<bool>(content); }
 
     bool selected = false;
     std::function<void()> onPress;
 };
 
-class CheckBox : public Control {
+/// One of several choices; pressing it clears the other options on the same page of the same container.
+class Option : public Choice {
   public:
-    using Control::Control;
+    using Choice::Choice;
 
-    bool selected = false;
-    std::function<void()> onPress;
+    bool rivals(const Option& other) const { return container == other.container && page == other.page; }
+};
+
+class CheckBox : public Choice {
+  public:
+    using Choice::Choice;
 };
 
 enum class Alignment { Left, Centre, Right };
@@ -117,6 +153,7 @@ class Label : public Control {
     using Control::Control;
 
     Alignment alignment = Alignment::Left;
+    const Control* buddy = nullptr; ///< The box that the label names.
 };
 
 class DataGrid;
@@ -133,8 +170,13 @@ class TextBox : public Control {
     using Control::Control;
 
     std::string shownText() const override { return text_; }
+    Content content() const override { return result ? Content{} : Content{text_}; }
+    void restore(const Content& content) override { text_ = std::get<std::string>(content); }
 
     const std::string& text() const { return text_; }
+
+    /// Shows a text without telling anybody.
+    void show(std::string text) { text_ = std::move(text); }
 
     /// Sets the text and tells `onChange`, also when the text is the same as before.
     void setText(std::string text);
@@ -147,6 +189,19 @@ class TextBox : public Control {
 
   private:
     std::string text_;
+};
+
+/// A list of texts, one of which may be selected.
+class ListBox : public Control {
+  public:
+    using Control::Control;
+
+    std::string shownText() const override;
+
+    std::vector<std::string> items;
+    int selected = -1;              ///< From 0; -1 when none is.
+    std::function<void()> onSelect; ///< Another item is selected.
+    std::function<void()> onOpen;   ///< The selected item is double-clicked, or Enter pressed on it.
 };
 
 /// A drawing that only adorns a window, such as a module's start picture.

@@ -16,46 +16,40 @@ std::size_t at(int index) {
 } // namespace
 
 DataGrid::DataGrid(std::string controlName, Rect place)
-    : Control(std::move(controlName), place), cells_(2, std::vector<std::string>(2)),
-      colWidths_(2, designColWidth), rowHeights_(2, designRowHeight) {}
+    : Control(std::move(controlName), place), content_{.cells = GridCells(2, 2),
+                                                       .colWidths = {designColWidth, designColWidth},
+                                                       .rowHeights = {designRowHeight, designRowHeight},
+                                                       .selection = {}} {}
 
 void DataGrid::setRows(int count) {
-    rows_ = std::max(count, 1);
-    cells_.resize(at(rows_), std::vector<std::string>(at(cols_)));
-    rowHeights_.resize(at(rows_), designRowHeight);
-    if (selection_.endRow >= rows_) setCurrent(std::min(row_, rows_ - 1), col_);
+    content_.cells.resize(std::max(count, 1), cols());
+    content_.rowHeights.resize(at(rows()), designRowHeight);
+    if (selection().endRow >= rows()) setCurrent(std::min(row(), rows() - 1), col());
 }
 
 void DataGrid::setCols(int count) {
-    cols_ = std::max(count, 1);
-    for (auto& row : cells_) row.resize(at(cols_));
-    colWidths_.resize(at(cols_), designColWidth);
-    if (selection_.endCol >= cols_) setCurrent(row_, std::min(col_, cols_ - 1));
+    content_.cells.resize(rows(), std::max(count, 1));
+    content_.colWidths.resize(at(cols()), designColWidth);
+    if (selection().endCol >= cols()) setCurrent(row(), std::min(col(), cols() - 1));
 }
 
-const std::string& DataGrid::cell(int row, int col) const {
-    checkIndex(row, 0, rows_ - 1);
-    checkIndex(col, 0, cols_ - 1);
-    return cells_[at(row)][at(col)];
-}
-
-void DataGrid::setCell(int row, int col, std::string text) {
-    checkIndex(row, 0, rows_ - 1);
-    checkIndex(col, 0, cols_ - 1);
-    cells_[at(row)][at(col)] = std::move(text);
+void DataGrid::setCells(GridCells cells) {
+    content_.cells = std::move(cells);
+    content_.rowHeights.resize(at(rows()), designRowHeight);
+    content_.colWidths.resize(at(cols()), designColWidth);
+    setCurrent(std::min(row(), rows() - 1), std::min(col(), cols() - 1));
 }
 
 void DataGrid::removeItem(int row) {
-    checkIndex(row, 1, rows_ - 1);
-    cells_.erase(cells_.begin() + row);
-    rowHeights_.erase(rowHeights_.begin() + row);
-    --rows_;
-    if (selection_.endRow >= rows_) setCurrent(std::min(row_, rows_ - 1), col_);
+    checkIndex(row, 1, rows() - 1);
+    content_.cells.erase(row);
+    content_.rowHeights.erase(content_.rowHeights.begin() + row);
+    if (selection().endRow >= rows()) setCurrent(std::min(this->row(), rows() - 1), col());
 }
 
 void DataGrid::clearRow(int row) {
-    checkIndex(row, 0, rows_ - 1);
-    std::fill(cells_[at(row)].begin() + 1, cells_[at(row)].end(), std::string());
+    checkIndex(row, 0, rows() - 1);
+    for (int col = 1; col < cols(); ++col) setCell(row, col, {});
 }
 
 void DataGrid::setCurrent(int row, int col) {
@@ -63,37 +57,37 @@ void DataGrid::setCurrent(int row, int col) {
 }
 
 void DataGrid::select(const CellBlock& block) {
-    checkIndex(block.startRow, 0, rows_ - 1);
-    checkIndex(block.endRow, 0, rows_ - 1);
-    checkIndex(block.startCol, 0, cols_ - 1);
-    checkIndex(block.endCol, 0, cols_ - 1);
-    row_ = block.startRow;
-    col_ = block.startCol;
-    selection_ = {.startRow = std::min(block.startRow, block.endRow),
-                  .endRow = std::max(block.startRow, block.endRow),
-                  .startCol = std::min(block.startCol, block.endCol),
-                  .endCol = std::max(block.startCol, block.endCol)};
+    checkIndex(block.startRow, 0, rows() - 1);
+    checkIndex(block.endRow, 0, rows() - 1);
+    checkIndex(block.startCol, 0, cols() - 1);
+    checkIndex(block.endCol, 0, cols() - 1);
+    content_.row = block.startRow;
+    content_.col = block.startCol;
+    content_.selection = {.startRow = std::min(block.startRow, block.endRow),
+                          .endRow = std::max(block.startRow, block.endRow),
+                          .startCol = std::min(block.startCol, block.endCol),
+                          .endCol = std::max(block.startCol, block.endCol)};
     if (onMove) onMove();
 }
 
 double DataGrid::colWidth(int col) const {
-    checkIndex(col, 0, cols_ - 1);
-    return colWidths_[at(col)];
+    checkIndex(col, 0, cols() - 1);
+    return content_.colWidths[at(col)];
 }
 
 void DataGrid::setColWidth(int col, double width) {
-    checkIndex(col, 0, cols_ - 1);
-    colWidths_[at(col)] = width;
+    checkIndex(col, 0, cols() - 1);
+    content_.colWidths[at(col)] = width;
 }
 
 double DataGrid::rowHeight(int row) const {
-    checkIndex(row, 0, rows_ - 1);
-    return rowHeights_[at(row)];
+    checkIndex(row, 0, rows() - 1);
+    return content_.rowHeights[at(row)];
 }
 
 void DataGrid::setRowHeight(int row, double height) {
-    checkIndex(row, 0, rows_ - 1);
-    rowHeights_[at(row)] = height;
+    checkIndex(row, 0, rows() - 1);
+    content_.rowHeights[at(row)] = height;
 }
 
 } // namespace vantore

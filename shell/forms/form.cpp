@@ -3,14 +3,17 @@
 #include <algorithm>
 
 #include "shell/base/text.h"
+#include "shell/forms/keys.h"
 
 namespace vantore {
 
 namespace {
 
+using TabbedCells = std::vector<std::vector<std::string>>;
+
 /// The fields of a text whose lines hold tab-separated cells.
-std::vector<std::vector<std::string>> tabbedCells(std::string_view text) {
-    std::vector<std::vector<std::string>> rows;
+TabbedCells tabbedCells(std::string_view text) {
+    TabbedCells rows;
     for (const std::string& line : lines(text)) {
         auto& cells = rows.emplace_back();
         std::size_t start = 0;
@@ -23,7 +26,26 @@ std::vector<std::vector<std::string>> tabbedCells(std::string_view text) {
     return rows;
 }
 
-constexpr int escapeKey = 27;
+std::size_t widest(const TabbedCells& cells) {
+    std::size_t count = 0;
+    for (const auto& row : cells) count = std::max(count, row.size());
+    return count;
+}
+
+void typeOver(DataGrid& grid, int row, int col, std::string_view text) {
+    grid.setCurrent(row, col);
+    if (!grid.onKey) return;
+    grid.onKey(keys::escape);
+    for (const char32_t point : codePoints(text)) grid.onKey(static_cast<int>(point));
+}
+
+void edited(const DataGrid& grid) {
+    if (grid.onEdit) grid.onEdit();
+}
+
+bool has(const DataGrid& grid, int row, int col) {
+    return row >= 0 && col >= 0 && row < grid.rows() && col < grid.cols();
+}
 
 } // namespace
 
@@ -40,107 +62,179 @@ void Form::run(const Control& /*control*/, const std::function<void()>& handler)
     if (handler) handler();
 }
 
-void Form::press(Control& control) {
-    if (!accepts(control)) return;
-    history_.breakMerging();
-    if (auto* button = dynamic_cast<Button*>(&control)) return run(control, button->onPress);
-    if (auto* box = dynamic_cast<CheckBox*>(&control)) {
-        box->selected = !box->selected;
-        return run(control, box->onPress);
-    }
-    auto* option = dynamic_cast<Option*>(&control);
-    if (option == nullptr) return;
-    for (const auto& other : controls_)
-        if (auto* rival = dynamic_cast<Option*>(other.get());
-            rival != nullptr && rival->frame == option->frame)
-            rival->selected = false;
-    option->selected = true;
-    run(control, option->onPress);
+// What can be undone
+
+FormState Form::state() const {
+    FormState state;
+    state.reserve(controls_.size());
+    for (const auto& control : controls_) state.push_back(control->content());
+    return state;
 }
 
-void Form::type(TextBox& box, std::string text) {
+void Form::forgetHistory() {
+    history_.clear();
+    ++epoch_;
+}
+
+/// An action that may change what the user edits: a step that can be taken back.
+void Form::act(const EditedField& field, const std::function<void()>& handler) {
+    if (!accepts(*field.control)) return;
+    FormState before = state();
+    const int epoch = epoch_;
+    history_.begin(before);
+    run(*field.control, handler);
+    FormState after = state();
+    if (epoch == epoch_ && after != before) history_.record(std::move(after), field);
+}
+
+/// An action that is no step of its own; what it changes goes with the step before it.
+void Form::actAside(Control& control, const std::function<void()>& handler) {
+    if (!accepts(control)) return;
+    history_.breakMerging();
+    const int epoch = epoch_;
+    run(control, handler);
+    if (epoch == epoch_) history_.amend(state());
+}
+
+void Form::undo() {
+    if (canUndo()) putBack(history_.undo());
+}
+
+void Form::redo() {
+    if (canRedo()) putBack(history_.redo());
+}
+
+void Form::putBack(const History::Target& target) {
+    for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->restore(target.state[i]);
+    if (target.control != nullptr) reveal(*target.control);
+    restored();
+}
+
+/// Brings a control's page to the front and gives it the focus.
+void Form::reveal(const Control& control) {
+    for (const auto& each : controls_) {
+        auto* container = dynamic_cast<Container*>(each.get());
+        for (const Control* inner = &control; inner != nullptr; inner = inner->container)
+            if (container != nullptr && inner->container == container && !container->pages.empty())
+                container->selected = inner->page;
+        if (each.get() == &control) focus = each.get();
+    }
+}
+
+// A user's actions
+
+void Form::press(Control& control) {
+    history_.breakMerging();
+    const EditedField field{.control = &control, .single = false};
+    if (auto* button = dynamic_cast<Button*>(&control)) return act(field, button->onPress);
+    auto* choice = dynamic_cast<Choice*>(&control);
+    if (choice == nullptr) return;
+    act(field, [this, choice] {
+        const auto* option = dynamic_cast<const Option*>(choice);
+        if (option != nullptr)
+            for (const auto& other : controls_)
+                if (auto* rival = dynamic_cast<Option*>(other.get());
+                    rival != nullptr && rival->rivals(*option))
+                    rival->selected = false;
+        choice->selected = option != nullptr || !choice->selected;
+        if (choice->onPress) choice->onPress();
+    });
+}
+
+void Form::type(TextBox& box, const std::string& text) {
     if (!accepts(box)) return;
-    const std::string before = box.text();
-    run(box, [&] { box.setText(std::move(text)); });
-    if (!box.cell) return history_.record({.box = &box, .before = before, .after = box.text()});
+    if (!box.cell) return act({.control = &box}, [&] { box.setText(text); });
     const auto [grid, row, col] = *box.cell;
-    grid->setCell(row, col, box.text());
-    history_.record({.grid = grid, .row = row, .col = col, .before = before, .after = box.text()});
+    act({.control = grid, .row = row, .col = col}, [&, grid = grid, row = row, col = col] {
+        box.setText(text);
+        grid->setCell(row, col, box.text());
+        edited(*grid);
+    });
 }
 
 void Form::leave(TextBox& box) {
-    run(box, box.onLeave);
+    actAside(box, box.onLeave);
 }
 
 void Form::select(DataGrid& grid, const CellBlock& block) {
-    history_.breakMerging();
-    run(grid, [&] { grid.select(block); });
+    if (!has(grid, block.startRow, block.startCol) || !has(grid, block.endRow, block.endCol)) return;
+    actAside(grid, [&] { grid.select(block); });
 }
 
 void Form::click(DataGrid& grid, int row, int col) {
-    if (!accepts(grid)) return;
+    if (!has(grid, row, col)) return;
     select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
-    const std::string before = grid.cell(row, col);
-    run(grid, [&] {
+    act({.control = &grid, .row = row, .col = col}, [&grid, row, col] {
         if (grid.onCellClick) grid.onCellClick(row, col);
+        edited(grid);
     });
-    if (row >= grid.rows() || col >= grid.cols()) return;
-    history_.record({.grid = &grid, .row = row, .col = col, .before = before, .after = grid.cell(row, col)});
 }
 
-void Form::doubleClick(DataGrid& grid) {
-    if (accepts(grid)) run(grid, grid.onDoubleClick);
+void Form::doubleClick(DataGrid& grid, int row, int col) {
+    if (!has(grid, row, col)) return;
+    select(grid, {.startRow = row, .endRow = row, .startCol = col, .endCol = col});
+    act({.control = &grid, .single = false}, grid.onDoubleClick);
 }
 
 void Form::key(DataGrid& grid, int code) {
     const int row = grid.row();
     const int col = grid.col();
-    if (row < 1 || col < 1 || row >= grid.rows() || col >= grid.cols()) return;
-    const std::string before = grid.text();
-    run(grid, [&] {
+    if (row < 1 || col < 1 || !has(grid, row, col)) return;
+    act({.control = &grid, .row = row, .col = col}, [&grid, code] {
         if (grid.onKey) grid.onKey(code);
+        edited(grid);
     });
-    history_.record({.grid = &grid, .row = row, .col = col, .before = before, .after = grid.cell(row, col)});
+}
+
+void Form::enterKey(DataGrid& grid) {
+    const int row = grid.row();
+    const int col = grid.col();
+    key(grid, keys::enter);
+    const bool stays = grid.row() == row && grid.col() == col;
+    if (stays && row + 1 < grid.rows())
+        select(grid, {.startRow = row + 1, .endRow = row + 1, .startCol = col, .endCol = col});
+}
+
+void Form::typeCell(DataGrid& grid, int row, int col, std::string_view text) {
+    if (!has(grid, row, col)) return;
+    history_.breakMerging();
+    act({.control = &grid, .row = row, .col = col}, [&] {
+        typeOver(grid, row, col, text);
+        edited(grid);
+    });
 }
 
 void Form::insertKey(DataGrid& grid) {
-    history_.clear();
-    run(grid, grid.onInsertKey);
+    act({.control = &grid, .single = false}, grid.onInsertKey);
 }
 
-void Form::paste(DataGrid& grid, std::string_view tabbedText) {
-    // A grid without rows says so once, not for every character.
-    if (grid.growsByRows && grid.rowCount <= 0) return key(grid, escapeKey);
+void Form::paste(DataGrid& grid, std::string_view tabbedText, NumberMarks marks) {
+    const TabbedCells cells = tabbedCells(tabbedText);
+    if (cells.empty()) return;
+    act({.control = &grid, .single = false}, [&] {
+        const CellBlock origin = grid.selection();
+        const int lastRow = origin.startRow + static_cast<int>(cells.size()) - 1;
+        const int lastCol = origin.startCol + static_cast<int>(widest(cells)) - 1;
+        if (origin.startRow < 1 || origin.startCol < 1) return;
+        if (grid.makesRoom && !grid.makesRoom(lastRow, lastCol)) return;
+        if (lastRow >= grid.rows() || lastCol >= grid.cols()) return;
+        pasteCells(grid, cells, marks);
+        grid.setCurrent(origin.startRow, origin.startCol);
+        edited(grid);
+    });
+}
+
+void Form::pasteCells(DataGrid& grid, const TabbedCells& cells, NumberMarks marks) {
     const CellBlock origin = grid.selection();
-    std::vector<Edit> edits;
     int row = origin.startRow;
-    for (const auto& cells : tabbedCells(tabbedText)) {
-        if (row >= grid.rows() && grid.growsByRows && grid.rowCount < grid.rowLimit) insertKey(grid);
+    for (const auto& line : cells) {
         int col = origin.startCol;
-        for (const std::string& cell : cells) {
-            if (row < 1 || col < 1 || row >= grid.rows() || col >= grid.cols()) break;
-            Edit edit = typeOver(grid, row, col, cell);
-            if (edit.after != edit.before) edits.push_back(std::move(edit));
+        for (const std::string& text : line) {
+            typeOver(grid, row, col, grid.numeric(col) ? pastedNumber(text, marks).value_or(text) : text);
             ++col;
         }
         ++row;
     }
-    history_.recordStep(std::move(edits));
-    if (origin.startRow < grid.rows() && origin.startCol < grid.cols())
-        grid.setCurrent(origin.startRow, origin.startCol);
-}
-
-/// Types a text in place of what a cell holds, key by key, so that the cell's own rules decide.
-Edit Form::typeOver(DataGrid& grid, int row, int col, std::string_view text) {
-    grid.setCurrent(row, col);
-    Edit edit{.grid = &grid, .row = row, .col = col, .before = grid.text(), .after = {}};
-    run(grid, [&] {
-        if (!grid.onKey) return;
-        grid.onKey(escapeKey);
-        for (const char32_t point : codePoints(text)) grid.onKey(static_cast<int>(point));
-    });
-    edit.after = grid.cell(row, col);
-    return edit;
 }
 
 std::string Form::copied(const DataGrid& grid) {
@@ -154,18 +248,36 @@ std::string Form::copied(const DataGrid& grid) {
     return text;
 }
 
-void Form::selectPage(TabControl& tabs, int page) {
-    if (!accepts(tabs) || page < 0 || page >= static_cast<int>(tabs.pages.size())) return;
-    tabs.selected = page;
-    run(tabs, tabs.onSelect);
+void Form::selectPage(Container& tabs, int page) {
+    if (page < 0 || page >= static_cast<int>(tabs.pages.size())) return;
+    actAside(tabs, [&tabs, page] {
+        tabs.selected = page;
+        if (tabs.onSelect) tabs.onSelect();
+    });
 }
 
-void Form::undo() {
-    history_.undo();
+void Form::selectItem(ListBox& list, int item) {
+    if (item < 0 || item >= static_cast<int>(list.items.size())) return;
+    actAside(list, [&list, item] {
+        list.selected = item;
+        if (list.onSelect) list.onSelect();
+    });
 }
 
-void Form::redo() {
-    history_.redo();
+void Form::openItem(ListBox& list) {
+    actAside(list, list.onOpen);
+}
+
+void Form::zoom(PictureSurface& surface, int steps) {
+    actAside(surface, [&] {
+        if (surface.onZoom) surface.onZoom(steps);
+    });
+}
+
+void Form::pan(PictureSurface& surface, int stepsRight, int stepsDown) {
+    actAside(surface, [&] {
+        if (surface.onPan) surface.onPan(stepsRight, stepsDown);
+    });
 }
 
 } // namespace vantore

@@ -15,13 +15,23 @@ constexpr double characterWidth = 8; // units of the 800x600 design
 PictureSurface::PictureSurface(std::string controlName, Rect place, Scale scale)
     : Control(std::move(controlName), place), scale_(scale) {}
 
+void PictureSurface::clear() {
+    operations_.clear();
+    ++revision_;
+}
+
+void PictureSurface::draw(SurfaceOperation operation) {
+    operations_.push_back(std::move(operation));
+    ++revision_;
+}
+
 void PictureSurface::moveTo(double x, double y) {
     x_ = x;
     y_ = y;
 }
 
 PictureSurface& PictureSurface::print(std::string_view text) {
-    operations_.push_back(SurfaceText{x_, y_, std::string(text), font, ink});
+    draw(SurfaceText{x_, y_, std::string(text), font, ink});
     x_ += characterWidth * scale_.x * static_cast<double>(length(text));
     return *this;
 }
@@ -32,15 +42,15 @@ PictureSurface& PictureSurface::print(std::string_view text, int colour) {
 }
 
 void PictureSurface::line(double x1, double y1, double x2, double y2, int colour, double width) {
-    operations_.push_back(SurfaceLine{x1, y1, x2, y2, colour, width});
+    draw(SurfaceLine{x1, y1, x2, y2, colour, width});
 }
 
 void PictureSurface::box(double x1, double y1, double x2, double y2, int colour, bool filled) {
-    operations_.push_back(SurfaceBox{x1, y1, x2, y2, colour, filled});
+    draw(SurfaceBox{x1, y1, x2, y2, colour, filled});
 }
 
 void PictureSurface::circle(double x, double y, double radius, int colour, bool filled) {
-    operations_.push_back(SurfaceCircle{x, y, radius, colour, filled});
+    draw(SurfaceCircle{x, y, radius, colour, filled});
 }
 
 } // namespace vantore

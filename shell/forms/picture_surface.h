@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -52,7 +53,7 @@ class PictureSurface : public Control {
   public:
     PictureSurface(std::string controlName, Rect place, Scale scale);
 
-    void clear() { operations_.clear(); }
+    void clear();
 
     /// Font and colour of the texts printed from now on. They last until they are set anew.
     Font font;
@@ -72,8 +73,19 @@ class PictureSurface : public Control {
 
     const std::vector<SurfaceOperation>& operations() const { return operations_; }
 
+    /// Another number whenever something has been drawn or wiped.
+    unsigned revision() const { return revision_; }
+
+    /// A plot that can be looked at from nearer or farther, and moved: what the user's steps do. Empty in
+    /// others.
+    std::function<void(int steps)> onZoom;
+    std::function<void(int stepsRight, int stepsDown)> onPan;
+
   private:
+    void draw(SurfaceOperation operation);
+
     Scale scale_;
+    unsigned revision_ = 0;
     double x_ = 0;
     double y_ = 0;
     std::vector<SurfaceOperation> operations_;

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "shell/base/number_text.h"
+#include "shell/base/record_fields.h"
+#include "shell/base/text.h"
+#include "shell/forms/data_grid.h"
+
+namespace vantore {
+
+/// A column's caption, its lines apart by CR LF, and its width in twips of the design.
+struct ColumnHeading {
+    std::string caption;
+    double width = designColWidth;
+};
+
+/// Shapes a grid to columns with these headings, column 0 first. The heading row is as high as its longest
+/// caption has lines.
+void shapeColumns(DataGrid& grid, const std::vector<ColumnHeading>& headings);
+
+/// The columns of a grid whose rows are records: column 1 on hold the members of the record's list of fields.
+template <class Record>
+class GridColumns {
+  public:
+    GridColumns() = default;
+
+    /// `headings` begin with that of column 0, the row number.
+    GridColumns(DataGrid& grid, std::span<const Field<Record>> fields,
+                const std::vector<ColumnHeading>& headings)
+        : grid_(&grid), fields_(fields) {
+        shapeColumns(grid, headings);
+        grid.holdsNumbers = [fields](int col) {
+            return col >= 1 && col <= static_cast<int>(fields.size()) &&
+                   std::holds_alternative<double Record::*>(fields[static_cast<std::size_t>(col - 1)]);
+        };
+    }
+
+    /// Puts a record into a row, numbers as their default texts.
+    void put(int row, const Record& record) const {
+        for (std::size_t i = 0; i < fields_.size(); ++i) {
+            const auto* text = std::get_if<std::string Record::*>(&fields_[i]);
+            grid_->setCell(row, static_cast<int>(i) + 1,
+                           text != nullptr ? record.**text
+                                           : defaultText(record.*std::get<double Record::*>(fields_[i])));
+        }
+    }
+
+    /// Takes a record from a row: texts without blanks at their ends, numbers by `val`.
+    void take(int row, Record& record) const {
+        for (std::size_t i = 0; i < fields_.size(); ++i) {
+            const std::string& cell = grid_->cell(row, static_cast<int>(i) + 1);
+            if (const auto* text = std::get_if<std::string Record::*>(&fields_[i])) {
+                record.** text = trimmed(cell);
+            } else {
+                record.*std::get<double Record::*>(fields_[i]) = val(cell);
+            }
+        }
+    }
+
+  private:
+    DataGrid* grid_ = nullptr;
+    std::span<const Field<Record>> fields_;
+};
+
+} // namespace vantore

@@ -1,0 +1,43 @@
+#include "shell/printing.h"
+
+namespace vantore {
+
+namespace {
+
+const Font reportTitleFont{"Arial", 12, false};
+const Font reportFont{"Courier New", 10, false};
+const Font dataTitleFont{"Arial", 14, false};
+const Font dataFont{"Courier New", 12, false};
+
+void printOn(PrintJob& job, const PrintLines& page) {
+    for (const std::string& line : page.lines()) job.print(line, dataFont);
+}
+
+} // namespace
+
+PrintJob reportJob(const std::string& title, const std::vector<std::string>& lines) {
+    PrintJob job{.title = title};
+    bool first = true;
+    for (const std::string& line : lines) {
+        job.print(line, first ? reportTitleFont : reportFont);
+        first = false;
+    }
+    return job;
+}
+
+PrintJob dataJob(const std::string& title, const std::string& heading, const PrintLines& page) {
+    PrintJob job{.title = title};
+    job.print("", dataFont);
+    job.print(heading, dataTitleFont);
+    job.print("", dataFont);
+    printOn(job, page);
+    return job;
+}
+
+PrintJob plainJob(const std::string& title, const PrintLines& page) {
+    PrintJob job{.title = title};
+    printOn(job, page);
+    return job;
+}
+
+} // namespace vantore
