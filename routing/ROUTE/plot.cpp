@@ -1,6 +1,7 @@
 #include "routing/ROUTE/plot.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "shell/base/number_text.h"
@@ -41,13 +42,33 @@ NetworkMap::NetworkMap(const RouteNetwork& network) : origin_(network.originNode
     for (int i = 1; i <= network.arcCount; ++i) {
         const Node* first = find(network.arcs(i).first());
         const Node* second = find(network.arcs(i).second());
-        if (first != nullptr && second != nullptr) arcs_.emplace_back(first->point, second->point);
+        if (first != nullptr && second != nullptr)
+            arcs_.push_back({*first, *second, network.arcs(i).cost});
     }
 }
 
 const NetworkMap::Node* NetworkMap::find(int number) const {
     const auto found = std::ranges::find(nodes_, number, &Node::number);
     return found == nodes_.end() ? nullptr : &*found;
+}
+
+bool NetworkMap::Arc::joins(int a, int b) const {
+    return (first.number == a && second.number == b) || (first.number == b && second.number == a);
+}
+
+const NetworkMap::Arc* NetworkMap::arcBetween(int a, int b) const {
+    const auto found = std::ranges::find_if(arcs_, [&](const Arc& arc) { return arc.joins(a, b); });
+    return found == arcs_.end() ? nullptr : &*found;
+}
+
+bool NetworkMap::leadsAlong(const Path& path) const {
+    double cost = 0;
+    for (std::size_t i = 1; i < path.nodes.size(); ++i) {
+        const Arc* arc = arcBetween(path.nodes[i - 1], path.nodes[i]);
+        if (arc == nullptr) return false;
+        cost += arc->cost;
+    }
+    return std::abs(cost - path.cost) < .005;
 }
 
 PlotTransform NetworkMap::transform(Vantage vantage) const {
@@ -59,7 +80,8 @@ PlotTransform NetworkMap::transform(Vantage vantage) const {
 void NetworkMap::draw(PictureSurface& surface, Scale scale, Vantage vantage) const {
     const PlotTransform place = transform(vantage);
     surface.clear();
-    for (const auto& [from, to] : arcs_) drawLine(surface, scale, place(from), place(to), colour::black);
+    for (const Arc& arc : arcs_)
+        drawLine(surface, scale, place(arc.first.point), place(arc.second.point), colour::black);
     for (const Node& node : nodes_)
         drawNode(surface, scale, place(node.point), node.number, node.number == origin_);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <span>
+#include <optional>
 #include <vector>
 
 #include "routing/ROUTE/method.h"
@@ -22,17 +22,28 @@ class NetworkMap {
     /// Draws a path in thick red lines and prints its cost. Nothing when one of its nodes isn't on the map.
     void drawPath(PictureSurface& surface, Scale scale, routing::Vantage vantage, const Path& path) const;
 
+    /// True for a path along the map's arcs at their cost, to the hundredth.
+    bool leadsAlong(const Path& path) const;
+
   private:
     struct Node {
         int number = 0;
         routing::MapPoint point;
     };
+    struct Arc {
+        Node first;
+        Node second;
+        double cost = 0;
+
+        bool joins(int a, int b) const;
+    };
 
     const Node* find(int number) const;
+    const Arc* arcBetween(int a, int b) const;
     routing::PlotTransform transform(routing::Vantage vantage) const;
 
     std::vector<Node> nodes_;
-    std::vector<std::pair<routing::MapPoint, routing::MapPoint>> arcs_;
+    std::vector<Arc> arcs_;
     int origin_;
 };
 

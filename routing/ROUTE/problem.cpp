@@ -142,19 +142,14 @@ RouteNetwork read(ItemReader& reader) {
     network.title = reader.readString();
     network.originNode = toInt16(reader.readNumber());
     network.nodeCount = reader.readCount(mostNodes);
-    for (int i = 1; i <= network.nodeCount; ++i) {
-        NodeRow& node = network.nodes(i);
-        node.number = reader.readString();
-        node.name = reader.readString();
-        node.x = reader.readString();
-        node.y = reader.readString();
-    }
+    for (int i = 1; i <= network.nodeCount; ++i) readFields<NodeRow>(reader, network.nodes(i), nodeFields);
     network.arcCount = reader.readCount(mostArcRows);
+    const NodeNames names(network.listedNodes());
     for (int i = 1; i <= network.arcCount; ++i) {
         ArcRow& arc = network.arcs(i);
-        arc.firstNode = reader.readNumber();
-        arc.secondNode = reader.readNumber();
-        arc.cost = reader.readNumber();
+        readFields<ArcRow>(reader, arc, storedArcFields);
+        arc.firstName = names.of(arc.firstNode);
+        arc.secondName = names.of(arc.secondNode);
     }
     return network;
 }
@@ -162,15 +157,9 @@ RouteNetwork read(ItemReader& reader) {
 void write(const RouteNetwork& network, ItemWriter& writer) {
     writer.string(network.title).number(network.originNode).endLine();
     writer.number(network.nodeCount).endLine();
-    for (int i = 1; i <= network.nodeCount; ++i) {
-        const NodeRow& node = network.nodes(i);
-        writer.string(node.number).label(node.name).string(node.x).string(node.y).endLine();
-    }
+    for (int i = 1; i <= network.nodeCount; ++i) writeRow<NodeRow>(writer, network.nodes(i), nodeFields);
     writer.number(network.arcCount).endLine();
-    for (int i = 1; i <= network.arcCount; ++i) {
-        const ArcRow& arc = network.arcs(i);
-        writer.number(arc.firstNode).number(arc.secondNode).number(arc.cost).endLine();
-    }
+    for (int i = 1; i <= network.arcCount; ++i) writeRow<ArcRow>(writer, network.arcs(i), storedArcFields);
 }
 
 std::optional<std::string> fault(const RouteNetwork& network) {

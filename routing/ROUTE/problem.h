@@ -1,11 +1,12 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::route {
@@ -37,16 +38,26 @@ class NodeNames {
     std::unordered_map<double, std::string> names_;
 };
 
-/// A row of the arc list; the arc can be travelled both ways.
+/// A row of the arc list; the arc can be travelled both ways. The names are those of the node list.
 struct ArcRow {
     double firstNode = 0;
     double secondNode = 0;
     double cost = 0;
+    std::string firstName = {};
+    std::string secondName = {};
 
     /// The nodes' numbers, as the nearest whole numbers. Overflow beyond 32 bits.
     int first() const;
     int second() const;
 };
+
+inline constexpr std::array<Field<NodeRow>, 4> nodeFields = {&NodeRow::number, &NodeRow::name, &NodeRow::x,
+                                                             &NodeRow::y};
+/// What the file holds of an arc, and what the user sees of it.
+inline constexpr std::array<Field<ArcRow>, 3> storedArcFields = {&ArcRow::firstNode, &ArcRow::secondNode,
+                                                                 &ArcRow::cost};
+inline constexpr std::array<Field<ArcRow>, 5> shownArcFields = {
+    &ArcRow::firstNode, &ArcRow::firstName, &ArcRow::secondNode, &ArcRow::secondName, &ArcRow::cost};
 
 struct RouteNetwork {
     std::string title;
@@ -65,11 +76,11 @@ struct RouteNetwork {
 /// The text of a new problem's file.
 std::string skeleton();
 
-/// Reads a problem file's items. InputPastEnd for a short file, SubscriptOutOfRange for more than 500 nodes or
+/// Reads a problem file's items, and gives the arcs their nodes' names. InputPastEnd for a short file, SubscriptOutOfRange for more than 500 nodes or
 /// 2000 arcs, Overflow for an origin beyond 16 bits.
 RouteNetwork read(ItemReader& reader);
 
-/// Writes the items; names without blanks at their ends, an empty one as one blank.
+/// Writes the items; the texts of the node list without blanks at their ends, an empty one as one blank.
 void write(const RouteNetwork& network, ItemWriter& writer);
 
 /// The first thing, in the order of the checks, that doesn't allow a solution.

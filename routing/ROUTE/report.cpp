@@ -71,7 +71,6 @@ void printNodes(PrintLines& page, const RouteNetwork& network) {
 }
 
 void printArcs(PrintLines& page, const RouteNetwork& network) {
-    const NodeNames names(network.listedNodes());
     page.line("CONNECTING NODE DATA");
     page.line("      From -------------------- To ----------------------");
     page.line("Point Node                      Node");
@@ -79,8 +78,8 @@ void printArcs(PrintLines& page, const RouteNetwork& network) {
     for (int i = 1; i <= network.arcCount; ++i) {
         const ArcRow& arc = network.arcs(i);
         page.right(6, format(i, "###0")).right(11, format(arc.firstNode, "###0"));
-        page.tab(12).text(names.of(arc.firstNode));
-        page.right(37, format(arc.secondNode, "###0")).tab(39).text(names.of(arc.secondNode));
+        page.tab(12).text(arc.firstName);
+        page.right(37, format(arc.secondNode, "###0")).tab(39).text(arc.secondName);
         page.right(69, format(arc.cost, costMask));
         page.endLine();
     }
@@ -126,7 +125,7 @@ PrintLines pathFile(const Solution& solution) {
     return page;
 }
 
-std::optional<Path> pathFrom(const std::vector<std::string>& lines, int destination) {
+std::optional<Path> pathFrom(const std::vector<std::string>& lines, double destination) {
     NumberLines numbers(lines);
     while (!numbers.atEnd()) {
         Path path = nextPath(numbers);

@@ -24,7 +24,7 @@ PrintLines pathFile(const Solution& solution);
 
 /// The path to a node from the lines of the working file; nothing when it holds none. InputPastEnd for a path
 /// that is cut off, SubscriptOutOfRange for a count of nodes that no path has.
-std::optional<Path> pathFrom(const std::vector<std::string>& lines, int destination);
+std::optional<Path> pathFrom(const std::vector<std::string>& lines, double destination);
 
 /// The input data for the printer.
 PrintLines dataPage(const RouteNetwork& network);

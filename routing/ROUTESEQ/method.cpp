@@ -18,8 +18,9 @@ constexpr int depotPoint = 1;
 /// Number 0 is the depot.
 Point placeOf(const StopSequencingProblem& problem, double number) {
     if (number == 0) return {problem.depotX, problem.depotY};
-    const Stop& stop = problem.stops(toInt32(number));
-    return {stop.x, stop.y};
+    const int stop = toInt32(number);
+    checkIndex(stop, 1, problem.stopCount);
+    return {problem.stops(stop).x, problem.stops(stop).y};
 }
 
 double straightLine(const Point& a, const Point& b) {

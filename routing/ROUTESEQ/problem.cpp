@@ -27,33 +27,16 @@ std::string skeleton() {
 
 StopSequencingProblem read(ItemReader& reader) {
     StopSequencingProblem problem;
-    problem.label = reader.readString();
-    problem.circuityFactor = reader.readNumber();
-    problem.mapFactor = reader.readNumber();
-    problem.depotX = reader.readNumber();
-    problem.depotY = reader.readNumber();
+    readFields<StopSequencingProblem>(reader, problem, scalarFields);
     problem.stopCount = reader.readCount(mostStops);
-    for (int i = 1; i <= problem.stopCount; ++i) {
-        Stop& stop = problem.stops(i);
-        stop.label = reader.readString();
-        stop.x = reader.readNumber();
-        stop.y = reader.readNumber();
-    }
+    for (int i = 1; i <= problem.stopCount; ++i) readFields<Stop>(reader, problem.stops(i), stopFields);
     return problem;
 }
 
 void write(const StopSequencingProblem& problem, ItemWriter& writer) {
-    writer.string(problem.label)
-        .number(problem.circuityFactor)
-        .number(problem.mapFactor)
-        .number(problem.depotX)
-        .number(problem.depotY)
-        .endLine();
-    writer.number(problem.stopCount).endLine();
-    for (int i = 1; i <= problem.stopCount; ++i) {
-        const Stop& stop = problem.stops(i);
-        writer.label(stop.label).number(stop.x).number(stop.y).endLine();
-    }
+    writeFields<StopSequencingProblem>(writer, problem, scalarFields);
+    writer.endLine().number(problem.stopCount).endLine();
+    for (int i = 1; i <= problem.stopCount; ++i) writeRow<Stop>(writer, problem.stops(i), stopFields);
 }
 
 } // namespace vantore::routeseq

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <array>
 #include <string>
 
-#include "shell/base/item_stream.h"
+#include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
 namespace vantore::routeseq {
@@ -28,6 +29,12 @@ struct StopSequencingProblem {
     /// A distance in coordinates times both factors. Overflow beyond the double range.
     double onTheRoad(double distance) const;
 };
+
+/// The members that the file holds and the user edits, in their order.
+inline constexpr std::array<Field<StopSequencingProblem>, 5> scalarFields = {
+    &StopSequencingProblem::label, &StopSequencingProblem::circuityFactor, &StopSequencingProblem::mapFactor,
+    &StopSequencingProblem::depotX, &StopSequencingProblem::depotY};
+inline constexpr std::array<Field<Stop>, 3> stopFields = {&Stop::label, &Stop::x, &Stop::y};
 
 /// The text of a new problem's file.
 std::string skeleton();

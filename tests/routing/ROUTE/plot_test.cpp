@@ -85,5 +85,13 @@ TEST_F(NetworkPlot, DrawsNoPathThroughANodeThatIsNotOnTheMap) {
     EXPECT_TRUE(surface.operations().empty());
 }
 
+TEST_F(NetworkPlot, KnowsThePathsAlongItsArcs) {
+    EXPECT_TRUE(map.leadsAlong({2, 2, {30, 1, 2}}));
+    EXPECT_TRUE(map.leadsAlong({1, 1.004, {2, 1}}));
+    EXPECT_FALSE(map.leadsAlong({1, 1.006, {2, 1}}));
+    EXPECT_FALSE(map.leadsAlong({2, 1, {30, 2}}));
+    EXPECT_FALSE(map.leadsAlong({99, 1, {2, 99}}));
+}
+
 } // namespace
 } // namespace vantore::route

@@ -36,15 +36,17 @@ TEST(RouteFile, KeepsTheTextsOfTheNodeList) {
     EXPECT_EQ(network.arcCount, 1);
     EXPECT_EQ(network.arcs(1).second(), 103);
     EXPECT_EQ(network.arcs(1).cost, .75);
+    EXPECT_EQ(network.arcs(1).firstName, "O'Fallon");
+    EXPECT_EQ(network.arcs(1).secondName, " ");
     EXPECT_EQ(written(network), sample);
 }
 
-TEST(RouteFile, WritesNamesWithoutBlanksAtTheirEnds) {
+TEST(RouteFile, WritesTextsWithoutBlanksAtTheirEnds) {
     RouteNetwork network = networkOf(1, 1, {});
-    network.nodes(1) = {" 1", "  Pier  ", "", "2"};
-    EXPECT_EQ(written(network), "\"Sample\",1\r\n1\r\n\" 1\",\"Pier\",\"\",\"2\"\r\n0\r\n");
+    network.nodes(1) = {" 1", "  Pier  ", "07 ", "2"};
+    EXPECT_EQ(written(network), "\"Sample\",1\r\n1\r\n\"1\",\"Pier\",\"07\",\"2\"\r\n0\r\n");
     network.nodes(1).name = "";
-    EXPECT_EQ(written(network), "\"Sample\",1\r\n1\r\n\" 1\",\" \",\"\",\"2\"\r\n0\r\n");
+    EXPECT_EQ(written(network), "\"Sample\",1\r\n1\r\n\"1\",\" \",\"07\",\"2\"\r\n0\r\n");
 }
 
 TEST(RouteFile, StartsWithABlankRowInEachList) {

@@ -65,6 +65,7 @@ TEST(PathFile, GivesThePathToANode) {
     EXPECT_EQ(path->destination, 3);
     EXPECT_EQ(pathFrom(lines, 2)->cost, .5);
     EXPECT_FALSE(pathFrom(lines, 1));
+    EXPECT_FALSE(pathFrom(lines, 2.5));
     EXPECT_FALSE(pathFrom({}, 2));
 }
 
@@ -83,6 +84,7 @@ TEST(PathFile, IsReadWithCare) {
 TEST(RouteDataPage, AlignsItsColumns) {
     RouteNetwork network = networkOf(2, 1, {{1, 2, 1234.5}, {2, 77, 0}});
     network.nodes(2) = {"102", "Pier 9, east", "-1234.567", "x"};
+    network.arcs(1).firstName = "N1";
     EXPECT_EQ(dataPage(network).lines(),
               (Lines{"Title: Sample", "Origin node number: 1", "NODE IDENTIFICATION DATA",
                      "Point Node                      X coor-   Y coor-",
