@@ -29,7 +29,7 @@ class ScriptPlatform : public Dialogs,
                        public Settings {
   public:
     /// `screen` in pixels; `out` takes the transcript. A strict one stops at the first step that fails.
-    ScriptPlatform(std::ostream& out, int screenWidth, int screenHeight, bool strict);
+    ScriptPlatform(std::ostream& out, int screenWidth, int screenHeight, bool strict = false);
 
     Platform parts() { return {*this, *this, *this, *this, *this, *this}; }
 

@@ -39,7 +39,7 @@ class ScriptPlayer {
 
     /// The launcher, which stands behind all other windows, and the window in front.
     const Launcher& launcher() const { return *launcher_; }
-    const Form& front() const { return *suite_.windows.front(); }
+    Form* front() const { return suite_.windows.front(); }
 
   private:
     using Command = void (ScriptPlayer::*)(ScriptLine&);

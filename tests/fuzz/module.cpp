@@ -27,8 +27,8 @@ class RestlessUser : public ScriptPlatform {
     void showModal(DialogForm& dialog) override {
         if (++dialogs_ > mostDialogs) throw PlatformFailure("enough");
         const bool even = dialogs_ % 2 == 0;
-        if (dialog.kind() == DialogForm::Kind::Question) queueAnswer(even ? "No" : "Yes");
-        if (dialog.kind() == DialogForm::Kind::Input) queueAnswer(even ? "1" : "2");
+        if (dialog.kind() == DialogForm::Kind::Question) queueAnswer({.text = even ? "No" : "Yes"});
+        if (dialog.kind() == DialogForm::Kind::Input) queueAnswer({.text = even ? "1" : "2"});
         ScriptPlatform::showModal(dialog);
     }
 
@@ -44,10 +44,10 @@ class RestlessUser : public ScriptPlatform {
     int dialogs_ = 0;
 };
 
-void pressAll(Launcher& launcher, RestlessUser& user) {
+void pressAll(Suite& suite, RestlessUser& user) {
     for (const char* name : {"cmdOpen", "cmdSolve", "cmdReport", "cmdPlot", "cmdPlotData", "cmdPrintPlot",
                              "cmdContinue", "cmdPrintData", "cmdContinue", "cmdSave", "cmdExit"}) {
-        ModuleFrame* module = launcher.module();
+        Form* module = suite.windows.front();
         if (module == nullptr) return;
         Control* control = module->find(name);
         try {
@@ -56,7 +56,7 @@ void pressAll(Launcher& launcher, RestlessUser& user) {
         } catch (const PlatformFailure&) {
             // The user has had enough of the questions; the next button is pressed all the same.
         }
-        launcher.unloadClosedModule();
+        suite.windows.unloadClosed();
     }
 }
 
@@ -77,6 +77,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     suite.installFolder = textOf(folder);
     Launcher launcher(suite);
     launcher.press(*launcher.moduleButton(FUZZED_MODULE));
-    pressAll(launcher, user);
+    pressAll(suite, user);
     return 0;
 }

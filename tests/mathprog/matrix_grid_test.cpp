@@ -4,7 +4,7 @@
 
 #include "mathprog/matrix_grid.h"
 #include "shell/base/runtime_error.h"
-#include "shell/grid_rows.h"
+#include "shell/forms/keys.h"
 
 namespace vantore {
 namespace {
@@ -52,33 +52,6 @@ TEST(ReshapeMatrix, RefusesAGridWithoutRoomForTheRoles) {
     DataGrid grid("Grid");
     fill(grid);
     EXPECT_THROW(reshapeMatrix(grid, 1, 4, 1, 2), RuntimeError);
-}
-
-TEST(TypedReshape, BringsBackWhatTheFirstDigitCutOff) {
-    DataGrid grid("Grid");
-    fill(grid);
-    TypedReshape reshape;
-    reshape(grid, "1", 3, 5, 1, 2);
-    EXPECT_EQ(grid.cell(2, 1), "31");
-    grid.setCell(1, 1, "typed since");
-    EXPECT_EQ(reshape.sizeBefore(grid, "12").rows, 4);
-    reshape(grid, "12", 14, 5, 1, 2);
-    EXPECT_EQ(grid.cell(1, 1), "typed since");
-    EXPECT_EQ(grid.cell(2, 0), "20");
-    EXPECT_EQ(grid.cell(2, 4), "24");
-    EXPECT_EQ(grid.cell(3, 1), "");
-    EXPECT_EQ(grid.cell(13, 1), "31");
-}
-
-TEST(TypedReshape, ForgetsWhatAnotherSizeCutOff) {
-    DataGrid grid("Grid");
-    fill(grid);
-    TypedReshape reshape;
-    reshape(grid, "1", 3, 5, 1, 2);
-    EXPECT_EQ(reshape.sizeBefore(grid, "2").rows, 3);
-    reshape(grid, "2", 4, 5, 1, 2);
-    EXPECT_EQ(grid.cell(1, 1), "11");
-    EXPECT_EQ(grid.cell(2, 1), "");
 }
 
 TEST(WidthForText, GrowsWithTheLongestLine) {

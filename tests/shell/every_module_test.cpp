@@ -41,7 +41,7 @@ TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
         const Control* open = session.module().find("cmdOpen");
         ASSERT_NE(open, nullptr);
         session.play("file NEW.dat\npress cmdOpen");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(together(formFaults(session.module())), "") << screen.width << "x" << screen.height;
     }
 }
@@ -49,7 +49,7 @@ TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
 TEST_P(EveryModule, AsksNothingWhenItIsLeftBeforeAFileIsOpen) {
     ModuleSession session;
     EXPECT_EQ(session.play("module " + GetParam() + "\nclose"), "");
-    EXPECT_EQ(session.launcher().module(), nullptr);
+    EXPECT_TRUE(session.closed());
     EXPECT_TRUE(session.launcher().enabled);
 }
 

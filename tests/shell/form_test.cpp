@@ -14,13 +14,15 @@ class SmallForm : public Form {
         grid.setCols(4);
         grid.onKey = [this](int code) { cellKeyPress(grid, code); };
         box.onChange = [this] { ++changes; };
-        option1.frame = option2.frame = &frame;
+        option1.container = option2.container = &frame;
     }
 
-    Frame& frame = add<Frame>("fraChoice");
+    Container& frame = add<Container>("fraChoice");
     Option& option1 = add<Option>("optOne");
     Option& option2 = add<Option>("optTwo");
     Option& stranger = add<Option>("optElsewhere");
+    Container& tabs = add<Container>("Tabs");
+    Button& button = add<Button>("cmdPress");
     CheckBox& check = add<CheckBox>("chkNotes");
     TextBox& box = add<TextBox>("txtLabel");
     DataGrid& grid = add<DataGrid>("Grid");
@@ -45,19 +47,19 @@ TEST(Form, SelectsOneOptionOfAFrame) {
 
 TEST(Form, IgnoresWhatAUserCanNotReach) {
     SmallForm form;
-    form.check.enabled = false;
+    form.check.usable = [] { return false; };
     form.press(form.check);
     EXPECT_FALSE(form.check.selected);
-    form.frame.visible = false;
+    form.frame.seen = [] { return false; };
     form.press(form.option1);
     EXPECT_FALSE(form.option1.selected);
 }
 
 TEST(Form, HidesWhatStandsOnAnotherPage) {
-    TabControl tabs("Tabs");
+    Container tabs("Tabs");
     tabs.pages = {"Stops", "Vehicles"};
     TextBox box("txtStop");
-    box.tabs = &tabs;
+    box.container = &tabs;
     box.page = 1;
     EXPECT_FALSE(box.shown());
     tabs.selected = 1;
@@ -96,11 +98,93 @@ TEST(Undo, ForgetsWhatWasUndoneAtTheNextEdit) {
     EXPECT_EQ(form.box.text(), "second");
 }
 
+TEST(Undo, TakesBackWhatAnActionDidToSeveralControls) {
+    SmallForm form;
+    form.box.show("kept");
+    form.type(form.box, "typed");
+    form.button.onPress = [&form] {
+        form.grid.setRows(2);
+        form.box.show("by the button");
+        form.option2.selected = true;
+    };
+    form.press(form.button);
+    form.undo();
+    EXPECT_EQ(form.grid.rows(), 4);
+    EXPECT_EQ(form.box.text(), "typed");
+    EXPECT_FALSE(form.option2.selected);
+    form.undo();
+    EXPECT_EQ(form.box.text(), "kept");
+    form.redo();
+    form.redo();
+    EXPECT_EQ(form.grid.rows(), 2);
+    EXPECT_EQ(form.box.text(), "by the button");
+    EXPECT_TRUE(form.option2.selected);
+}
+
+TEST(Undo, CountsWhatLeavingABoxChangesToTheStepBefore) {
+    SmallForm form;
+    form.box.onLeave = [&form] { form.box.show(form.box.text() + " miles"); };
+    form.type(form.box, "12");
+    form.leave(form.box);
+    form.type(form.box, "13");
+    form.undo();
+    EXPECT_EQ(form.box.text(), "12 miles");
+    form.undo();
+    EXPECT_EQ(form.box.text(), "");
+}
+
+TEST(Undo, LeadsToThePageOfWhatItChanges) {
+    SmallForm form;
+    form.tabs.pages = {"Stops", "Vehicles"};
+    form.box.container = &form.tabs;
+    form.box.page = 1;
+    form.selectPage(form.tabs, 1);
+    form.type(form.box, "van");
+    form.selectPage(form.tabs, 0);
+    form.undo();
+    EXPECT_EQ(form.tabs.selected, 1);
+    EXPECT_EQ(form.focus, &form.box);
+    EXPECT_EQ(form.box.text(), "");
+}
+
+TEST(Undo, LeavesResultsAlone) {
+    SmallForm form;
+    form.check.result = true;
+    form.type(form.box, "a");
+    form.check.selected = true;
+    form.undo();
+    EXPECT_TRUE(form.check.selected);
+}
+
+TEST(Keys, AreIgnoredOutsideTheGridAndWhereItIsHidden) {
+    SmallForm form;
+    form.typeCell(form.grid, 9, 1, "x");
+    form.click(form.grid, 1, 9);
+    form.select(form.grid, {1, 9, 1, 1});
+    EXPECT_EQ(form.grid.row(), 1);
+    form.grid.seen = [] { return false; };
+    form.select(form.grid, {2, 2, 2, 2});
+    EXPECT_EQ(form.grid.row(), 1);
+    form.key(form.grid, 'x');
+    form.paste(form.grid, "x");
+    EXPECT_EQ(form.grid.cell(1, 1), "");
+}
+
+TEST(Keys, EnterMovesDownAsFarAsTheLastRow) {
+    SmallForm form;
+    form.select(form.grid, {2, 2, 1, 1});
+    form.enterKey(form.grid);
+    EXPECT_EQ(form.grid.row(), 3);
+    form.enterKey(form.grid);
+    EXPECT_EQ(form.grid.row(), 3);
+    EXPECT_EQ(form.grid.cell(2, 1), "");
+}
+
 TEST(Paste, FillsABlockFromTheCurrentCellAndUndoesAsOne) {
     SmallForm form;
     form.grid.setCell(2, 2, "old");
     form.select(form.grid, {2, 2, 2, 2});
-    form.paste(form.grid, "1\t2\n3\t4\nmore rows than there are\t\n");
+    form.paste(form.grid, "1\t2\n3\t4\n");
     EXPECT_EQ(form.grid.cell(2, 2), "1");
     EXPECT_EQ(form.grid.cell(3, 3), "4");
     EXPECT_EQ(form.grid.row(), 2);
@@ -109,25 +193,37 @@ TEST(Paste, FillsABlockFromTheCurrentCellAndUndoesAsOne) {
     EXPECT_EQ(form.grid.cell(3, 3), "");
 }
 
+TEST(Paste, TakesAllOrNothing) {
+    SmallForm form;
+    form.select(form.grid, {3, 3, 3, 3});
+    form.paste(form.grid, "1\t2\n");
+    form.paste(form.grid, "1\n2\n");
+    EXPECT_EQ(form.grid.cell(3, 3), "");
+    form.grid.makesRoom = [&form](int lastRow, int /*lastCol*/) {
+        form.grid.setRows(lastRow + 1);
+        return true;
+    };
+    form.paste(form.grid, "1\n2\n");
+    EXPECT_EQ(form.grid.cell(4, 3), "2");
+    form.undo();
+    EXPECT_EQ(form.grid.rows(), 4);
+}
+
 TEST(Paste, RefusesCommasAndQuotesAsTypingDoes) {
     SmallForm form;
     form.select(form.grid, {1, 1, 1, 1});
-    form.paste(form.grid, "1,500\t5\" pipe\r\n");
-    EXPECT_EQ(form.grid.cell(1, 1), "1500");
+    form.paste(form.grid, "North, main\t5\" pipe\r\n");
+    EXPECT_EQ(form.grid.cell(1, 1), "North main");
     EXPECT_EQ(form.grid.cell(1, 2), "5 pipe");
 }
 
-TEST(Paste, AddsTheRowsThatItNeedsUpToTheLimit) {
+TEST(Paste, ReadsNumbersInColumnsOfNumbersAlone) {
     SmallForm form;
-    form.grid.growsByRows = true;
-    form.grid.rowLimit = 4;
-    form.grid.rowCount = 3;
-    form.grid.onInsertKey = [&] { form.grid.setRows(++form.grid.rowCount + 1); };
-    form.select(form.grid, {3, 3, 1, 1});
-    form.paste(form.grid, "a\nb\nc\n");
-    EXPECT_EQ(form.grid.rowCount, 4);
-    EXPECT_EQ(form.grid.cell(3, 1), "a");
-    EXPECT_EQ(form.grid.cell(4, 1), "b");
+    form.grid.holdsNumbers = [](int col) { return col == 2; };
+    form.select(form.grid, {1, 1, 1, 1});
+    form.paste(form.grid, "1.234\t1.234,5", {.decimal = ','});
+    EXPECT_EQ(form.grid.cell(1, 1), "1.234");
+    EXPECT_EQ(form.grid.cell(1, 2), "1234.5");
 }
 
 TEST(Copy, SeparatesCellsByTabs) {

@@ -22,8 +22,9 @@ bool overlap(const Rect& a, const Rect& b) {
 
 /// A frame or tab control holds other controls by design.
 bool holds(const Control& outer, const Control& inner) {
-    if (inner.frame == &outer || inner.tabs == &outer) return true;
-    return inner.frame != nullptr && inner.frame->tabs == &outer;
+    for (const Container* around = inner.container; around != nullptr; around = around->container)
+        if (around == &outer) return true;
+    return false;
 }
 
 /// A title and its shadow stand one over the other.
@@ -72,8 +73,7 @@ void checkPlace(const Form& form, const Control& control, std::vector<std::strin
     if (!inside) faults.push_back(control.name + " leaves the window");
     if (!captionFits(control, form.scale()))
         faults.push_back("the caption of " + control.name + " doesn't fit");
-    const Control* outer = control.frame;
-    if (outer == nullptr) outer = control.tabs;
+    const Container* outer = control.container;
     if (outer != nullptr &&
         !(r.left >= outer->design.left && r.right() <= outer->design.right() + tolerance &&
           r.top >= outer->design.top && r.bottom() <= outer->design.bottom() + tolerance))

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "script/script_player.h"
+#include "shell/module_frame.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -39,8 +40,11 @@ class ModuleSession {
     std::filesystem::path ioFolder() const { return folder_.path() / "io"; }
     std::filesystem::path installFolder() const { return folder_.path() / "install"; }
 
-    /// The open module's window; there must be one.
-    const ModuleFrame& module() const { return *player_->launcher().module(); }
+    /// The open module's window; std::bad_cast when the window in front is none.
+    ModuleFrame& module() const { return dynamic_cast<ModuleFrame&>(*player_->front()); }
+
+    /// The window in front is the launcher's.
+    bool closed() const { return player_->front() == &player_->launcher(); }
     const Launcher& launcher() const { return player_->launcher(); }
 
   private:

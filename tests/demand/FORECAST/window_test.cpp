@@ -43,7 +43,7 @@ TEST(ForecastWindow, HasNoFaultsInAnyView) {
         session.play("press cmdSolve");
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
         session.play("answer 2\npress cmdPlot");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Plot);
+        EXPECT_EQ(session.module().view(), View::Plot);
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
     }
 }
@@ -383,7 +383,7 @@ TEST(ForecastFiles, AreMetWithAMessageOrAProblemWhateverTheyHold) {
         opened(session);
         session.writeFile("FRCBAD.dat", content);
         session.play("file FRCBAD.dat\npress cmdOpen");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(session.readFile("FRCBAD.dat"), content);
         const std::string solved = session.play("press cmdSolve\nshow cmdContinue\nshow cmdSolve");
         EXPECT_NE(solved.find(": visible"), std::string::npos) << content;

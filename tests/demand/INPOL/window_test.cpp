@@ -37,13 +37,13 @@ TEST(InpolWindow, HasNoFaultsInAnyView) {
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
         session.writeFile("INV01.dat", problem("N", "Y", "Y"));
         session.play("file INV01.dat\npress cmdOpen");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
         session.play("press cmdSolve");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+        EXPECT_EQ(session.module().view(), View::Report);
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
         session.play("answer 1\nanswer 1\nanswer 1\npress cmdPlot");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Plot);
+        EXPECT_EQ(session.module().view(), View::Plot);
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
         session.play("press cmdContinue");
         EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{}) << width;
@@ -261,7 +261,7 @@ TEST(InpolWindow, MeetsZerosInCellsWithAMessage) {
         EXPECT_EQ(session.play("cell " + std::string(cell) + "\npress cmdSolve"),
                   "MessageBx \"INPOL\": \"Division by zero" + std::string(solveFailed) + "\n")
             << cell;
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
     }
     ModuleSession session;
     opened(session);
@@ -285,7 +285,7 @@ TEST(InpolWindow, SolvesOrTellsWhateverACellHolds) {
                         session.play("cell " + place + " " + text);
                         const std::string told = session.play("press cmdSolve");
                         const bool failed = told.find(solveFailed) != std::string::npos;
-                        EXPECT_EQ(failed ? ModuleFrame::View::Data : ModuleFrame::View::Report,
+                        EXPECT_EQ(failed ? View::Data : View::Report,
                                   session.module().view())
                             << place << " " << text;
                         const std::string report = session.readFile("OUTPUT.DAT");
@@ -306,7 +306,7 @@ TEST(InpolWindow, PlotsOnlyASensitivityRun) {
         session.play("press cmdPlot"),
         "MessageBx \"INPOL\": \"No results are available for plotting.  Call for a sensitivity analysis "
         "and resolve the problem.\"\n");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+    EXPECT_EQ(session.module().view(), View::Report);
 }
 
 TEST(InpolWindow, AsksWhatToPlotUntilItKnows) {
@@ -353,7 +353,7 @@ TEST(InpolWindow, PlotsThePeriodicSystemOfJointOrdersWithoutAsking) {
 TEST(InpolWindow, StaysAtTheReportWhenNoCurveIsChosen) {
     ModuleSession session;
     opened(session).play("press cmdSolve\nanswer 1\nanswer 1\nanswer cancel\npress cmdPlot");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+    EXPECT_EQ(session.module().view(), View::Report);
 }
 
 TEST(InpolWindow, ReturnsToTheDataWhenThereIsNoSuchProduct) {
@@ -362,7 +362,7 @@ TEST(InpolWindow, ReturnsToTheDataWhenThereIsNoSuchProduct) {
     EXPECT_NE(session.play("answer 1\nanswer 0\nanswer 1\npress cmdPlot")
                   .find("MessageBx \"INPOL\": \"Subscript out of range occurred in INPOL, cmdPlot.\""),
               std::string::npos);
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
 }
 
 TEST(InpolWindow, ForgetsTheRunOfAnEarlierSolve) {

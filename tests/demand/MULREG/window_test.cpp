@@ -57,13 +57,13 @@ TEST(MulregWindow, HasNoFaultsInAnyViewAtAnyScreenSize) {
         session.play("file REG01.dat\npress cmdOpen");
         EXPECT_EQ(together(tests::formFaults(session.module())), "") << "data " << width;
         session.play("press cmdSolve");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+        EXPECT_EQ(session.module().view(), View::Report);
         EXPECT_EQ(together(tests::formFaults(session.module())), "") << "report " << width;
         session.play("answer 2\nanswer 1\npress cmdPlotData");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Plot);
+        EXPECT_EQ(session.module().view(), View::Plot);
         EXPECT_EQ(together(tests::formFaults(session.module())), "") << "plot " << width;
         session.play("press cmdContinue");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
     }
 }
 
@@ -148,7 +148,7 @@ TEST(MulregWindow, SurvivesEveryDamagedFile) {
         session.play("module MULREG\nfile REG01.dat\npress cmdOpen\npress cmdSolve\npress cmdContinue\n"
                      "press cmdPrintData\nfile REG02.dat\npress cmdSave");
         EXPECT_EQ(session.readFile("REG01.dat"), content);
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
     }
 }
 
@@ -296,7 +296,7 @@ TEST(MulregSolve, GoesBackToTheDataAfterAMessage) {
     opened(session);
     EXPECT_EQ(session.play("type txtStepwise y\npress cmdSolve"),
               "MessageBx \"MULREG\": \"Response of stepwise analysis must be Y or N.\"\n");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
     EXPECT_FALSE(session.fileExists("OUTPUT.DAT"));
 }
 
@@ -316,7 +316,7 @@ TEST(MulregSolve, TellsWhatCannotBeComputed) {
                   std::string::npos)
             << change << "\n"
             << told;
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
     }
 }
 
@@ -390,7 +390,7 @@ TEST(MulregPlot, AsksAgainForAColumnThatIsNone) {
     std::size_t count = 0;
     for (const std::string& line : lines(told)) count += line == "MessageBx \"MULREG\": \"Try again.\"";
     EXPECT_EQ(count, 4U);
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Plot);
+    EXPECT_EQ(session.module().view(), View::Plot);
 }
 
 TEST(MulregPlot, RefusesEqualColumnsAndStopsAtCancel) {
@@ -400,7 +400,7 @@ TEST(MulregPlot, RefusesEqualColumnsAndStopsAtCancel) {
     EXPECT_NE(told.find("MessageBx \"MULREG\": \"Both variables are the same.  Plot is not meaningful.\""),
               std::string::npos);
     session.play("answer cancel\npress cmdPlotData\nanswer 1\nanswer cancel\npress cmdPlotData");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
 }
 
 TEST(MulregPlot, TellsOfAValueThatCannotBe) {
@@ -409,7 +409,7 @@ TEST(MulregPlot, TellsOfAValueThatCannotBe) {
     const std::string told = session.play("cell grdObs 1 1 1E400\nanswer 1\nanswer 2\npress cmdPlotData");
     EXPECT_NE(told.find("MessageBx \"MULREG\": \"Overflow occurred in MULREG, cmdPlotData\"\n"),
               std::string::npos);
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
 }
 
 TEST(MulregPlot, OfNoObservationsIsEmpty) {

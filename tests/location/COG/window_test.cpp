@@ -112,7 +112,7 @@ TEST(CogWindow, MeetsEveryDamagedFileWithAMessageOrAProblem) {
         session.writeFile("COGBAD.dat", content);
         session.open("COG", "COG01.dat");
         session.play("file COGBAD.dat\npress cmdOpen");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+        EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(session.readFile("COGBAD.dat"), content);
     }
 }

@@ -301,7 +301,7 @@ TEST(LnprogWindowPlaces, HaveNoFaultsInAnyView) {
         session.play("file FLPDOCK.dat\npress cmdOpen");
         EXPECT_EQ(formFaults(session.module()), Texts{}) << "data " << width;
         session.play("press cmdSolve");
-        EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+        EXPECT_EQ(session.module().view(), View::Report);
         EXPECT_EQ(formFaults(session.module()), Texts{}) << "report " << width;
     }
 }

@@ -172,7 +172,7 @@ TEST_F(MiprogWindow, NamesTheSelectedConstraintAndVariable) {
 
 TEST_F(MiprogWindow, UndoesALabelWhereItWasGiven) {
     session.play("current Grid 1 1\ntype txtVarLabel XTruck\ncurrent Grid 2 2");
-    Form& form = *session.launcher().module();
+    Form& form = session.module();
     form.undo();
     EXPECT_EQ(grid().at(0), head);
     form.redo();
@@ -181,7 +181,7 @@ TEST_F(MiprogWindow, UndoesALabelWhereItWasGiven) {
 
 TEST_F(MiprogWindow, UndoesAClickOnAType) {
     session.play("click Grid 3 1");
-    session.launcher().module()->undo();
+    session.module().undo();
     EXPECT_EQ(grid().at(3), "Var. type | INT |  |  | ");
 }
 
@@ -338,7 +338,7 @@ TEST_F(MiprogWindow, PrintsItsInputData) {
                "Obj. coef.               5           4"}));
     EXPECT_EQ(readLines(session.ioFolder() / "OUTPUT.DAT").front(), "                         INPUT DATA");
     session.play("press cmdContinue");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
 }
 
 TEST_F(MiprogWindow, PrintsAWideProblemInPanelsThatLineUp) {
@@ -366,7 +366,7 @@ TEST_F(MiprogWindow, HasNoFaultsInAnyView) {
         each.play("file ILP01.dat\npress cmdOpen");
         EXPECT_EQ(together(formFaults(each.module())), "");
         each.play("answer Yes\npress cmdSolve");
-        EXPECT_EQ(each.module().view(), ModuleFrame::View::Report);
+        EXPECT_EQ(each.module().view(), View::Report);
         EXPECT_EQ(together(formFaults(each.module())), "");
     }
 }
@@ -422,16 +422,16 @@ TEST_F(MiprogWindow, StaysAliveWhileTheSolverRunsAndStopsItOnCtrlC) {
     suite.installFolder = textOf(session.installFolder());
     Launcher launcher(suite);
     launcher.press(*launcher.moduleButton("MIPROG"));
-    user.module = launcher.module();
+    user.module = dynamic_cast<ModuleFrame*>(suite.windows.front());
     user.queueFile("ILP02.dat");
     user.module->press(*user.module->find("cmdOpen"));
-    user.queueAnswer("Yes");
+    user.queueAnswer({.text = "Yes"});
     user.module->press(*user.module->find("cmdSolve"));
     EXPECT_GE(user.steps, WatchingUser::stepsOfPatience);
     EXPECT_FALSE(user.buttonsSeen);
     EXPECT_TRUE(user.note.starts_with("MIP.EXE is running, 0:0")) << user.note;
     EXPECT_EQ(user.module->runningNote, "");
-    EXPECT_EQ(user.module->view(), ModuleFrame::View::Report);
+    EXPECT_EQ(user.module->view(), View::Report);
     const auto* report = dynamic_cast<const ReportScreen*>(user.module->find("rtbOut"));
     EXPECT_EQ(report->lines().at(1).text, "STATUS: STOPPED");
 }

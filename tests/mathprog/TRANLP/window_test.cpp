@@ -84,7 +84,7 @@ TEST_F(TransportationWindow, TakesNoKeysWithoutSources) {
 
 TEST_F(TransportationWindow, UndoesASizeAndACell) {
     session.play("type txtRows 4");
-    Form& form = const_cast<ModuleFrame&>(session.module());
+    Form& form = session.module();
     form.undo();
     EXPECT_EQ(session.grid("Grid").size(), 4U);
     session.play("cell Grid 1 1 77");
@@ -111,7 +111,7 @@ TEST_F(TransportationWindow, WritesNoLabelOnAHeadingLine) {
 
 TEST_F(TransportationWindow, UndoesALabelInItsOwnRow) {
     session.play("current Grid 1 1\ntype txtRowLabel Pit A\ncurrent Grid 2 1");
-    Form& form = const_cast<ModuleFrame&>(session.module());
+    Form& form = session.module();
     form.undo();
     EXPECT_EQ(session.grid("Grid").at(1), "Pit one | 4 | .5 |  | 40");
     EXPECT_EQ(session.grid("Grid").at(2), "Pit two | 3.25 |  | 6 | 35.5");
@@ -154,7 +154,7 @@ TEST_F(TransportationWindow, FillsBlanksButNotTheCornerWhenItSaves) {
 
 TEST_F(TransportationWindow, GoesFromDataToResultsToReportAndBack) {
     session.play("press cmdSolve");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Result);
+    EXPECT_EQ(session.module().view(), View::Result);
     EXPECT_EQ(session.play("show GridOut\nshow Label6\nshow Label7\nshow Grid\nshow cmdSolve\nshow "
                            "txtTotalCost\npress cmdPrintReport"),
               "GridOut: visible enabled \"\"\nLabel6: visible enabled \"Results\"\n"
@@ -162,10 +162,10 @@ TEST_F(TransportationWindow, GoesFromDataToResultsToReportAndBack) {
               "cmdSolve: hidden enabled \"&Solve\"\ntxtTotalCost: visible enabled \"72\"\n"
               "refused: cmdPrintReport is hidden\n");
     session.play("press cmdReport");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Report);
+    EXPECT_EQ(session.module().view(), View::Report);
     EXPECT_EQ(session.report().at(2), " Problem label: Coal");
     session.play("press cmdContinue");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
     EXPECT_EQ(session.grid("Grid").at(1), "Pit one | 4 | .5 |  | 40");
 }
 
@@ -180,7 +180,7 @@ TEST_F(TransportationWindow, GivesTheResultsGridTheShapeAndHeadingsOfTheData) {
 TEST_F(TransportationWindow, StaysInTheDataWhenUnitsOverflow) {
     EXPECT_EQ(session.play("cell Grid 1 4 9E+9\npress cmdSolve"),
               "MessageBx \"TRANLP\": \"Overflow occurred in TRANLP, cmdSolve.\"\n");
-    EXPECT_EQ(session.module().view(), ModuleFrame::View::Data);
+    EXPECT_EQ(session.module().view(), View::Data);
 }
 
 TEST_F(TransportationWindow, ReportsAProblemWithoutRoomForTheBalancingColumn) {
@@ -265,9 +265,8 @@ class AnsweredWindow {
 
     std::string doubleClick(int row, const char* answer = nullptr) {
         transcript_.str({});
-        window_->select(grid(), {.startRow = row, .endRow = row, .startCol = 2, .endCol = 2});
-        if (answer != nullptr) user_.queueAnswer(answer);
-        window_->doubleClick(grid());
+        if (answer != nullptr) user_.queueAnswer({.text = answer});
+        window_->doubleClick(grid(), row, 2);
         return transcript_.str();
     }
 
