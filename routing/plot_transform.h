@@ -28,9 +28,9 @@ struct Vantage {
     double panY = 0;
 };
 
-/// The vantage after one step: '+' and '-' change the zoom by 0.2, 'U', 'D', 'L' and 'R' move the map up, down,
-/// left and right by 25 units, 'O' restores the usual zoom and takes the pans off. Letters count in either
-/// case; any other character changes nothing, nor does a '-' that would leave no picture.
+/// The vantage after one step: '+' and '-' change the zoom by 0.2, 'U', 'D', 'L' and 'R' move the map up,
+/// down, left and right by 25 units, 'O' restores the usual zoom and takes the pans off. Letters count in
+/// either case; any other character changes nothing, nor does a '-' that would leave no picture.
 Vantage stepped(Vantage from, char step);
 
 /// Where the points of a map lie on the surface.
@@ -48,7 +48,7 @@ class PlotTransform {
 
     double left_;
     double top_;
-    double unit_;         // units of the design for one of the map's
+    double unit_;        // units of the design for one of the map's
     SurfacePoint shift_; // from the place that the scale gives to the one on the surface
 };
 

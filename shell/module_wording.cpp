@@ -5,6 +5,7 @@ namespace vantore {
 ModuleWording ModuleWording::completed() const {
     ModuleWording all = *this;
     std::string* const titles[] = {&all.windowTitle,
+                                   &all.prefixTitle,
                                    &all.exitTitle,
                                    &all.rows.question,
                                    &all.rows.noRow,

@@ -9,6 +9,9 @@
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
+#include "routing/Distance/Distance.h"
+#include "routing/ROUTE/ROUTE.h"
+#include "routing/ROUTESEQ/ROUTESEQ.h"
 
 namespace vantore {
 
@@ -30,6 +33,9 @@ std::vector<ModuleEntry> moduleList() {
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),
         entry<mulreg::MULREG>("MULREG"),
+        entry<distance::Distance>("MILES"),
+        entry<route::ROUTE>("ROUTE"),
+        entry<routeseq::ROUTESEQ>("ROUTESEQ"),
     };
 }
 

@@ -26,7 +26,8 @@ struct Problem {
     double mapFactor = 0;      ///< from coordinates to miles
 };
 
-/// What doesn't allow a distance over the earth: all four coordinates 0, as they are before anything is typed.
+/// What doesn't allow a distance over the earth: all four coordinates 0, as they are before anything is
+/// typed.
 std::optional<std::string> fault(const Problem& problem);
 
 } // namespace vantore::distance

@@ -37,6 +37,12 @@ constexpr int numberColumn = 1;
 constexpr int nameColumn = 2;
 constexpr int secondNumberColumn = 3;
 
+void fillBlankNumbers(DataGrid& grid) {
+    for (int row = 1; row <= grid.rowCount(); ++row)
+        for (int col = 1; col < grid.cols(); ++col)
+            if (grid.numeric(col) && grid.cell(row, col).empty()) grid.setCell(row, col, "0");
+}
+
 } // namespace
 
 ROUTE::ROUTE(Suite& suite) : ModuleFrame(suite, routeWording) {
@@ -78,8 +84,7 @@ void ROUTE::addNodeList() {
 
 void ROUTE::addArcList() {
     addLabel("lblNodeData", "CONNECTING NODE DATA", {120, 3430, 4000, 240}, {View::Data});
-    addLabel("lblFromTo",
-             "From --------------------------------   To -----------------------------------",
+    addLabel("lblFromTo", "From --------------------------------   To -----------------------------------",
              {1020, 3670, 8460, 240}, {View::Data});
     GridRows& rows = addRowGrid("grdNodeData", arcListPlace, mostArcRows);
     grdNodeData = &rows.grid();
@@ -140,15 +145,18 @@ RouteNetwork ROUTE::readControls() const {
     return network;
 }
 
-/// The names of the arc list come from the node list and are never saved.
+/// The names of the arc list come from the node list and stay as they are.
 void ROUTE::fillBlankCells() {
-    fillBlanks(*grdNodeId, {nameColumn});
-    fillBlanks(*grdNodeData, {nameColumn, nameColumn + 2});
+    fillBlankNumbers(*grdNodeId);
+    fillBlankNumbers(*grdNodeData);
+    for (int row = 1; row <= grdNodeId->rowCount(); ++row)
+        if (grdNodeId->cell(row, nameColumn).empty()) grdNodeId->setCell(row, nameColumn, " ");
 }
 
 NodeNames ROUTE::namesInList() const {
     std::vector<NodeRow> rows(static_cast<std::size_t>(grdNodeId->rows() - 1));
-    for (int row = 1; row < grdNodeId->rows(); ++row) nodes_.take(row, rows[static_cast<std::size_t>(row - 1)]);
+    for (int row = 1; row < grdNodeId->rows(); ++row)
+        nodes_.take(row, rows[static_cast<std::size_t>(row - 1)]);
     return NodeNames(rows);
 }
 
@@ -189,7 +197,8 @@ void ROUTE::solve() {
 // Printed data
 
 void ROUTE::printData() {
-    print(dataJob(wording().name, {"ROUTE", "FINDS THE SHORTEST ROUTE THROUGH A NETWORK"},
+    print(dataJob(wording().name,
+                  std::vector<std::string>{"ROUTE", "FINDS THE SHORTEST ROUTE THROUGH A NETWORK"},
                   dataPage(readControls())));
 }
 

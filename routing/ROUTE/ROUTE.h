@@ -48,10 +48,10 @@ class ROUTE : public ModuleFrame {
     GridColumns<NodeRow> nodes_;
     GridColumns<ArcRow> arcs_;
 
-    std::string openedFile_;         // what the plot shows
-    bool solved_ = false;            // since that file was opened
-    std::optional<NetworkMap> map_;  // nothing until the first plot
-    std::optional<Path> shownPath_;  // highlighted on it
+    std::string openedFile_;        // what the plot shows
+    bool solved_ = false;           // since that file was opened
+    std::optional<NetworkMap> map_; // nothing until the first plot
+    std::optional<Path> shownPath_; // highlighted on it
     routing::Vantage vantage_;
 };
 

@@ -7,7 +7,7 @@ namespace vantore::route {
 
 namespace {
 
-constexpr double costUnits = 100;     // the solver's units to one of the problem's
+constexpr double costUnits = 100;    // the solver's units to one of the problem's
 constexpr double infinity = 9999999; // no label reaches it
 constexpr int mostSortedNodes = 2 * mostSolvedArcs;
 
@@ -80,7 +80,8 @@ class ForwardStar {
             ++first_(arc.b);
         }
         int slots = 0;
-        for (int position = 1; position <= nodeCount_; ++position) first_(position) = slots += first_(position);
+        for (int position = 1; position <= nodeCount_; ++position)
+            first_(position) = slots += first_(position);
         for (const UsedArc& arc : arcs) {
             slots_(first_(arc.a)--) = {arc.b, arc.cost};
             slots_(first_(arc.b)--) = {arc.a, arc.cost};

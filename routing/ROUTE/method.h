@@ -6,8 +6,8 @@
 
 namespace vantore::route {
 
-/// The cheapest path from the origin to one node, both ends included. A node that the origin doesn't reach has
-/// an empty path.
+/// The cheapest path from the origin to one node, both ends included. A node that the origin doesn't reach
+/// has an empty path.
 struct Path {
     int destination = 0;
     double cost = 0;

@@ -42,8 +42,7 @@ NetworkMap::NetworkMap(const RouteNetwork& network) : origin_(network.originNode
     for (int i = 1; i <= network.arcCount; ++i) {
         const Node* first = find(network.arcs(i).first());
         const Node* second = find(network.arcs(i).second());
-        if (first != nullptr && second != nullptr)
-            arcs_.push_back({*first, *second, network.arcs(i).cost});
+        if (first != nullptr && second != nullptr) arcs_.push_back({*first, *second, network.arcs(i).cost});
     }
 }
 

@@ -12,8 +12,8 @@ namespace vantore::route {
 /// The network as it is drawn: where each node lies, and which nodes are joined.
 class NetworkMap {
   public:
-    /// Of nodes with equal numbers the first row counts. Arcs with an end that isn't in the node list are left
-    /// out.
+    /// Of nodes with equal numbers the first row counts. Arcs with an end that isn't in the node list are
+    /// left out.
     explicit NetworkMap(const RouteNetwork& network);
 
     /// Clears the surface and draws the arcs, then the nodes with their numbers, the origin's in red.

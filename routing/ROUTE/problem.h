@@ -76,8 +76,8 @@ struct RouteNetwork {
 /// The text of a new problem's file.
 std::string skeleton();
 
-/// Reads a problem file's items, and gives the arcs their nodes' names. InputPastEnd for a short file, SubscriptOutOfRange for more than 500 nodes or
-/// 2000 arcs, Overflow for an origin beyond 16 bits.
+/// Reads a problem file's items, and gives the arcs their nodes' names. InputPastEnd for a short file,
+/// SubscriptOutOfRange for more than 500 nodes or 2000 arcs, Overflow for an origin beyond 16 bits.
 RouteNetwork read(ItemReader& reader);
 
 /// Writes the items; the texts of the node list without blanks at their ends, an empty one as one blank.

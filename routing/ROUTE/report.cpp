@@ -98,8 +98,10 @@ PrintLines reportPage(const RouteNetwork& network, const Solution& solution) {
     PrintLines page = reportHead(network);
     page.text("   Number of nodes =").number(solution.nodeCount).endLine();
     page.text("   Number of arcs =").number(solution.arcCount).endLine();
-    if (solution.originConnected) printPaths(page, network, solution);
-    else page.line("ERROR: THE ORIGIN NODE IS NOT CONNECTED TO THE NETWORK");
+    if (solution.originConnected)
+        printPaths(page, network, solution);
+    else
+        page.line("ERROR: THE ORIGIN NODE IS NOT CONNECTED TO THE NETWORK");
     return page;
 }
 

@@ -15,8 +15,8 @@ PrintLines reportHead(const RouteNetwork& network);
 /// The whole report.
 PrintLines reportPage(const RouteNetwork& network, const Solution& solution);
 
-/// What the user is told in boxes, in order: a network of too few nodes, an origin that isn't joined to it, each
-/// node that the origin doesn't reach.
+/// What the user is told in boxes, in order: a network of too few nodes, an origin that isn't joined to it,
+/// each node that the origin doesn't reach.
 std::vector<std::string> warnings(const RouteNetwork& network, const Solution& solution);
 
 /// The paths as the working file holds them, an item a line: cost, count of nodes, the nodes.

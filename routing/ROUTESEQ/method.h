@@ -9,10 +9,10 @@
 
 namespace vantore::routeseq {
 
-/// The stops of a short route in the order of visit, each once: the convex hull of depot and stops, into which
-/// the points inside are inserted one at a time. For the points of at least one stop.
-/// Sources: Norback and Love, "Geometric approaches to solving the traveling salesman problem" (1977), and the
-/// headers of its two steps.
+/// The stops of a short route in the order of visit, each once: the convex hull of depot and stops, into
+/// which the points inside are inserted one at a time. For the points of at least one stop. Sources: Norback
+/// and Love, "Geometric approaches to solving the traveling salesman problem" (1977), and the headers of its
+/// two steps.
 std::vector<int> shortSequence(const Points& points);
 
 /// The stop that an answer names; nothing for a number outside 1 to `stopCount`. Overflow beyond the double
@@ -22,9 +22,9 @@ std::optional<int> specifiedStop(std::string_view answer, int stopCount);
 /// The stops' numbers with a blank in front of each.
 std::string sequenceText(const std::vector<int>& stops);
 
-/// The length of the route from the depot through the stops of a sequence text and back, in the coordinates as
-/// typed, times both factors. SubscriptOutOfRange for a stop that the table hasn't, Overflow beyond the double
-/// range.
+/// The length of the route from the depot through the stops of a sequence text and back, in the coordinates
+/// as typed, times both factors. SubscriptOutOfRange for a stop that the table hasn't, Overflow beyond the
+/// double range.
 double routeDistance(const StopSequencingProblem& problem, std::string_view sequence);
 
 } // namespace vantore::routeseq

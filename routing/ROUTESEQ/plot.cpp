@@ -41,7 +41,9 @@ struct Range {
     double least = 0;
     double most = 0;
 
-    double at(int tick, int ticks) const { return ticks == 0 ? least : least + (most - least) * tick / ticks; }
+    double at(int tick, int ticks) const {
+        return ticks == 0 ? least : least + (most - least) * tick / ticks;
+    }
 
     /// The power of ten in which the axis is labelled: its ticks have three digits before the point at most.
     double unit() const {
@@ -114,7 +116,8 @@ class Axes {
             const double at = place_({x_.at(tick, ticks), y_.least}).x;
             const std::string text = tickText(x_, tick, ticks);
             pen.line({at, bottom_}, {at, bottom_ + tickLength});
-            pen.text({at - static_cast<double>(length(text)) * characterWidth / 2, bottom_ + tickLength}, text);
+            pen.text({at - static_cast<double>(length(text)) * characterWidth / 2, bottom_ + tickLength},
+                     text);
         }
     }
 
@@ -191,8 +194,8 @@ void StopMap::drawRoute(PictureSurface& surface, Scale scale, const MeasuredSequ
     }
     pen.line(at, depot, colour::lightRed);
     pen.font(textSize);
-    pen.text({distanceLeft, headingTop}, "Total distance = " + format(sequence.distance, "###,###,###,###.##0"),
-             colour::lightRed);
+    pen.text({distanceLeft, headingTop},
+             "Total distance = " + format(sequence.distance, "###,###,###,###.##0"), colour::lightRed);
 }
 
 } // namespace vantore::routeseq
