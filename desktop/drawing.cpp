@@ -7,6 +7,7 @@
 
 #include "desktop/chart_drawing.h"
 #include "desktop/fonts.h"
+#include "shell/forms/visible_operations.h"
 
 namespace vantore {
 
@@ -61,7 +62,8 @@ QColor qtColour(int number) {
 
 void paintSurface(QPainter& painter, const PictureSurface& surface) {
     OperationPainter paint(painter);
-    for (const SurfaceOperation& operation : surface.operations()) std::visit(paint, operation);
+    for (const SurfaceOperation& operation : visibleOperations(surface.operations()))
+        std::visit(paint, operation);
 }
 
 QSizeF unitsOf(const Form& form, const Control& control) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "shell/base/arithmetic.h"
+#include "shell/base/number.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
 
@@ -87,8 +88,9 @@ void drawAxes(PictureSurface& surface, Scale scale, PlotPoint largest) {
 }
 
 PlotPoint plotPlace(PlotPoint point, PlotPoint largest) {
-    return {wholePart(plotLeft + divide(plotSide * point.x, largest.x)),
-            wholePart(plotBottom - divide(plotSide * point.y, largest.y))};
+    const Number x = plotSide * point.x;
+    const Number y = plotSide * point.y;
+    return {wholePart(plotLeft + x / largest.x), wholePart(plotBottom - y / largest.y)};
 }
 
 } // namespace vantore

@@ -110,6 +110,7 @@ void ScriptPlayer::step(std::string_view text) {
     if (command == commands().end()) throw PlatformFailure("unknown command " + word);
     (this->*command->second)(line);
     suite_.windows.unloadClosed();
+    if (suite_.windows.empty()) launcher_ = nullptr;
 }
 
 // Windows and controls
@@ -187,7 +188,7 @@ void ScriptPlayer::openModule(ScriptLine& line) {
     line.end();
     if (suite_.windows.empty()) throw PlatformFailure("the program has ended");
     if (suite_.windows.front() != launcher_)
-        throw PlatformFailure("a window is open over the launcher already");
+        throw PlatformFailure("a module is open already");
     Button* button = launcher_->moduleButton(name);
     if (button == nullptr) throw PlatformFailure("unknown module " + name);
     owner_ = launcher_;

@@ -37,8 +37,9 @@ class ScriptPlayer {
     /// Plays to the end. PlatformFailure ("line 12: ...") at the step that stops it.
     void play(std::istream& script);
 
-    /// The launcher, which stands behind all other windows, and the window in front.
-    const Launcher& launcher() const { return *launcher_; }
+    /// The launcher, which stands behind all other windows, and the window in front; nullptr once the program
+    /// has ended.
+    const Launcher* launcher() const { return launcher_; }
     Form* front() const { return suite_.windows.front(); }
 
   private:

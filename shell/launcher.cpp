@@ -235,7 +235,7 @@ Launcher::Attempt Launcher::readSettings(DriverReader reader) {
 }
 
 void Launcher::showFolder() {
-    txtDir_->caption = "Input/output folder: " + suite().ioFolder;
+    if (!suite().ioFolder.empty()) txtDir_->caption = "Input/output folder: " + suite().ioFolder;
 }
 
 void Launcher::markInstallDrive() {

@@ -247,10 +247,11 @@ void SetupScreen::keepResolution() {
     keep();
 }
 
-/// The probe stays in the folder.
+/// The probe stays in the folder. Before the first choice of a folder the install folder stands for it.
 void SetupScreen::testFolder() {
-    writeLines(pathOf(suite().ioFolder + probeName), {});
-    writeDriverFile(suite().drvFile(), {suite().ioFolder, suite().screenWidth, suite().screenHeight, 0});
+    const std::string folder = suite().ioFolder.empty() ? suite().installFolder + "/" : suite().ioFolder;
+    writeLines(pathOf(folder + probeName), {});
+    writeDriverFile(suite().drvFile(), {folder, suite().screenWidth, suite().screenHeight, 0});
 }
 
 void SetupScreen::askAboutTheme() {

@@ -6,8 +6,8 @@ namespace vantore::forecast {
 
 /// The straight line a + b t through the data.
 struct TrendLine {
-    double intercept = 0; ///< a
-    double slope = 0;     ///< b
+    Number intercept; ///< a
+    Number slope;     ///< b
 };
 
 /// Classical decomposition, trend times season: the least-squares line over all n periods, each period's

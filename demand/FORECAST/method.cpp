@@ -31,10 +31,10 @@ int hundredthsOf(double constant) {
     return toInt32(hundred * (constant == 0 ? leastConstant : constant));
 }
 
-ErrorMeasures measure(const ErrorSums& sums, double errorPeriods) {
-    return {.mad = divide(sums.absolute, errorPeriods),
-            .bias = divide(sums.error, errorPeriods),
-            .rmse = squareRoot(divide(sums.squared, errorPeriods))};
+ErrorMeasures measure(const ErrorSums& sums, Number errorPeriods) {
+    return {.mad = sums.absolute / errorPeriods,
+            .bias = sums.error / errorPeriods,
+            .rmse = squareRoot(sums.squared / errorPeriods)};
 }
 
 /// The constants of a search. It leaves the series as its last combination and the forecasts from that made

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "demand/FORECAST/problem.h"
+#include "shell/base/number.h"
 #include "shell/base/table.h"
 
 namespace vantore::forecast {
@@ -45,9 +46,9 @@ struct Constants {
 };
 
 struct ErrorSums {
-    double error = 0;
-    double absolute = 0;
-    double squared = 0; ///< SSE, by which combinations are ranked
+    Number error;
+    Number absolute;
+    Number squared; ///< SSE, by which combinations are ranked
 };
 
 /// Initialises the model from periods 1 to N, runs it over N + 1 to n and gives the sums of its errors.
@@ -64,17 +65,17 @@ ErrorSums sumErrors(Series& series, const Setting& setting);
 /// Sums over periods 1 to `count` for the least-squares line of y. Overflow where one is beyond the double
 /// range, SubscriptOutOfRange for a count above 250.
 struct PeriodSums {
-    double count = 0;
-    double y = 0, t = 0, ty = 0, tt = 0;
+    Number count;
+    Number y, t, ty, tt;
 
     PeriodSums(const Series& series, long long periods);
 
     /// The means of y and t. DivisionByZero for a count of 0.
-    double mean() const;
-    double meanPeriod() const;
+    Number mean() const;
+    Number meanPeriod() const;
 
     /// The slope b of the line. DivisionByZero for a count of 0 or 1.
-    double slope() const;
+    Number slope() const;
 };
 
 } // namespace vantore::forecast

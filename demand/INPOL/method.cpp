@@ -11,55 +11,54 @@ constexpr int rounds = 20;
 constexpr double leastStockoutCost = .00001;
 
 /// H: what it costs to hold one unit over one period.
-double holdingCost(const Product& product) {
-    return finite((product.unitPrice + product.transportRate) * product.carryingCost);
+Number holdingCost(const Product& product) {
+    return (product.unitPrice + product.transportRate) * product.carryingCost;
 }
 
 /// The standard deviation of demand over `time`, the lead time being uncertain too.
-double demandDeviation(const Product& product, double time) {
-    const double byDemand = time * (product.sdDemand * product.sdDemand);
-    const double byLeadTime = product.avgDemand * product.sdLeadTime;
-    return squareRoot(finite(byDemand + byLeadTime * byLeadTime));
+Number demandDeviation(const Product& product, Number time) {
+    const Number byDemand = time * (product.sdDemand * product.sdDemand);
+    const Number byLeadTime = product.avgDemand * product.sdLeadTime;
+    return squareRoot(byDemand + byLeadTime * byLeadTime);
 }
 
 /// The quantity that balances carrying cost and the costs that an order brings.
-double economicQuantity(const Product& product, double costPerOrder) {
-    return squareRoot(divide(2 * product.avgDemand * costPerOrder, holdingCost(product)));
+Number economicQuantity(const Product& product, Number costPerOrder) {
+    return squareRoot(2 * product.avgDemand * costPerOrder / holdingCost(product));
 }
 
-double costWithStockouts(const Product& product, double sigma, double loss) {
-    return finite(product.orderCost + product.stockoutCost * sigma * loss);
+Number costWithStockouts(const Product& product, Number sigma, Number loss) {
+    return product.orderCost + product.stockoutCost * sigma * loss;
 }
 
 /// The probability of no stockout at which one unit more costs as much to hold as it saves.
-double optimalProbability(const Product& product, double quantity) {
-    const double held = finite(quantity * holdingCost(product));
-    return finite(1 - divide(held, finite(product.stockoutCost * product.avgDemand)));
+Number optimalProbability(const Product& product, Number quantity) {
+    return 1 - quantity * holdingCost(product) / (product.stockoutCost * product.avgDemand);
 }
 
-double fractionInStock(double sigma, double loss, double quantity) {
-    return finite(1 - divide(finite(sigma * loss), quantity));
+Number fractionInStock(Number sigma, Number loss, Number quantity) {
+    return 1 - sigma * loss / quantity;
 }
 
 void setReorderPoint(const Product& product, NormalDeviate normal, StockingPolicies& policies) {
     policies.ropLoss = normal.loss;
-    policies.ropSafety = finite(normal.z * policies.sigma);
-    policies.reorderPoint = finite(product.avgDemand * product.avgLeadTime + policies.ropSafety);
-    policies.ropAvgInv = finite(policies.ropQ / 2 + policies.ropSafety);
+    policies.ropSafety = normal.z * policies.sigma;
+    policies.reorderPoint = product.avgDemand * product.avgLeadTime + policies.ropSafety;
+    policies.ropAvgInv = policies.ropQ / 2 + policies.ropSafety;
     policies.ropInStock = fractionInStock(policies.sigma, normal.loss, policies.ropQ);
 }
 
 void setPeriodicReview(const Product& product, NormalDeviate normal, StockingPolicies& policies) {
     policies.prLoss = normal.loss;
-    policies.prSafety = finite(normal.z * policies.sigmaP);
-    policies.maxLevel =
-        finite(product.avgDemand * (policies.reviewTime + product.avgLeadTime) + policies.prSafety);
-    policies.prAvgInv = finite(policies.prQ / 2 + policies.prSafety);
+    policies.prSafety = normal.z * policies.sigmaP;
+    policies.maxLevel = product.avgDemand * (policies.reviewTime + product.avgLeadTime) + policies.prSafety;
+    policies.prAvgInv = policies.prQ / 2 + policies.prSafety;
     policies.prInStock = fractionInStock(policies.sigmaP, normal.loss, policies.prQ);
 }
 
-double startQuantity(const Product& product, bool quantitySpecified) {
-    return quantitySpecified ? product.orderQuantity : economicQuantity(product, product.orderCost);
+Number startQuantity(const Product& product, bool quantitySpecified) {
+    if (quantitySpecified) return product.orderQuantity;
+    return economicQuantity(product, product.orderCost);
 }
 
 void balanceReorderPoint(const Product& product, bool quantitySpecified, StockingPolicies& policies) {
@@ -78,7 +77,7 @@ void balanceReorderPoint(const Product& product, bool quantitySpecified, Stockin
 void balancePeriodicReview(const Product& product, bool quantitySpecified, StockingPolicies& policies) {
     NormalDeviate normal;
     for (int round = 1; round <= rounds; ++round) {
-        policies.reviewTime = divide(policies.prQ, product.avgDemand);
+        policies.reviewTime = policies.prQ / product.avgDemand;
         normal = deviateFor(optimalProbability(product, policies.prQ));
         policies.sigmaP = demandDeviation(product, policies.reviewTime + product.avgLeadTime);
         if (!quantitySpecified)
@@ -88,10 +87,10 @@ void balancePeriodicReview(const Product& product, bool quantitySpecified, Stock
     setPeriodicReview(product, normal, policies);
 }
 
-StockingPolicies jointPolicies(const Product& product, double cycleTime, NormalDeviate normal) {
+StockingPolicies jointPolicies(const Product& product, Number cycleTime, NormalDeviate normal) {
     StockingPolicies policies;
     policies.reviewTime = cycleTime;
-    policies.prQ = finite(product.avgDemand * cycleTime);
+    policies.prQ = product.avgDemand * cycleTime;
     policies.ropQ = policies.ropAvgInv = 1;
     policies.sigmaP = demandDeviation(product, cycleTime + product.avgLeadTime);
     setPeriodicReview(product, normal, policies);
@@ -100,26 +99,25 @@ StockingPolicies jointPolicies(const Product& product, double cycleTime, NormalD
 
 /// What the costs of a policy hang on, besides the product.
 struct PolicyTerms {
-    double quantity, averageInventory, safetyStock, loss, sigma;
-    double costPerOrder;
+    Number quantity, averageInventory, safetyStock, loss, sigma;
+    Number costPerOrder;
 };
 
-double whole(double cost) {
-    return wholePart(.5 + finite(cost));
+Number whole(Number cost) {
+    return wholePart(.5 + cost);
 }
 
-AnnualCosts annualCosts(double periods, const Product& product, const PolicyTerms& terms) {
-    const double demand = periods * product.avgDemand;
-    const double holding = periods * holdingCost(product);
-    const double stockouts = periods * product.stockoutCost * product.avgDemand * terms.loss * terms.sigma;
+AnnualCosts annualCosts(Number periods, const Product& product, const PolicyTerms& terms) {
+    const Number demand = periods * product.avgDemand;
+    const Number holding = periods * holdingCost(product);
+    const Number stockouts = periods * product.stockoutCost * product.avgDemand * terms.loss * terms.sigma;
     AnnualCosts costs;
     costs.purchase = whole(demand * product.unitPrice);
     costs.transport = whole(demand * product.transportRate);
     costs.carrying = whole(holding * (terms.averageInventory - terms.safetyStock));
-    costs.orderProcessing = whole(divide(demand * terms.costPerOrder, terms.quantity));
-    costs.outOfStock = whole(divide(stockouts, terms.quantity));
+    costs.orderProcessing = whole(demand * terms.costPerOrder / terms.quantity);
+    costs.outOfStock = whole(stockouts / terms.quantity);
     costs.safetyStock = whole(holding * terms.safetyStock);
-    finite(costs.total());
     return costs;
 }
 
@@ -157,7 +155,7 @@ StockingPolicies servicePolicies(const Product& product, bool quantitySpecified)
     policies.sigma = demandDeviation(product, product.avgLeadTime);
     policies.ropQ = policies.prQ = startQuantity(product, quantitySpecified);
     setReorderPoint(product, normal, policies);
-    policies.reviewTime = divide(policies.prQ, product.avgDemand);
+    policies.reviewTime = policies.prQ / product.avgDemand;
     policies.sigmaP = demandDeviation(product, policies.reviewTime + product.avgLeadTime);
     setPeriodicReview(product, normal, policies);
     return policies;
@@ -165,14 +163,14 @@ StockingPolicies servicePolicies(const Product& product, bool quantitySpecified)
 
 double jointCycleTime(const Problem& problem) {
     if (problem.cycleTime != 0) return problem.cycleTime;
-    double orderCosts = 0;
-    double holdingCosts = 0;
+    Number orderCosts;
+    Number holdingCosts;
     for (int i = 1; i <= problem.productCount; ++i) {
         const Product& product = problem.products(i);
         orderCosts += product.orderCost;
         holdingCosts += holdingCost(product) * product.avgDemand;
     }
-    return squareRoot(divide(2 * (problem.jointCost + orderCosts), finite(holdingCosts)));
+    return squareRoot(2 * (problem.jointCost + orderCosts) / holdingCosts);
 }
 
 StockingPolicies jointServicePolicies(const Product& product, double cycleTime) {
@@ -180,25 +178,25 @@ StockingPolicies jointServicePolicies(const Product& product, double cycleTime) 
 }
 
 StockingPolicies jointOptimalPolicies(const Product& product, double cycleTime, double& keptLookup) {
-    const double probability = optimalProbability(product, finite(product.avgDemand * cycleTime));
+    const Number probability = optimalProbability(product, product.avgDemand * cycleTime);
     if (probability < .5) keptLookup = probability + .5;
     return jointPolicies(product, cycleTime, deviateFor(probability, keptLookup));
 }
 
 void addCosts(const Problem& problem, const Product& product, StockingPolicies& policies) {
-    const double periods = periodsPerYear(problem.timeFrame);
-    const double shareOfJointCost = divide(problem.jointCost, problem.productCount);
-    const double value = product.unitPrice + product.transportRate;
+    const Number periods = periodsPerYear(problem.timeFrame);
+    const Number jointCost = problem.jointCost;
+    const Number value = product.unitPrice + product.transportRate;
     policies.ropCosts = annualCosts(periods, product,
                                     {policies.ropQ, policies.ropAvgInv, policies.ropSafety, policies.ropLoss,
                                      policies.sigma, product.orderCost});
     policies.prCosts = annualCosts(periods, product,
                                    {policies.prQ, policies.prAvgInv, policies.prSafety, policies.prLoss,
-                                    policies.sigmaP, product.orderCost + shareOfJointCost});
-    policies.ropTurnover = divide(periods * product.avgDemand, policies.ropAvgInv);
-    policies.prTurnover = divide(periods * product.avgDemand, policies.prAvgInv);
-    policies.ropInvestment = finite(value * policies.ropAvgInv);
-    policies.prInvestment = finite(value * policies.prAvgInv);
+                                    policies.sigmaP, product.orderCost + jointCost / problem.productCount});
+    policies.ropTurnover = periods * product.avgDemand / policies.ropAvgInv;
+    policies.prTurnover = periods * product.avgDemand / policies.prAvgInv;
+    policies.ropInvestment = value * policies.ropAvgInv;
+    policies.prInvestment = value * policies.prAvgInv;
 }
 
 void runProcedure(Procedure procedure, Problem& problem, ProductPolicies& policies, double& keptLookup,
@@ -230,8 +228,6 @@ Summary summaryOf(const ProductPolicies& policies, int productCount) {
         summary.ropInvestment += policies(i).ropInvestment;
         summary.prInvestment += policies(i).prInvestment;
     }
-    finite(summary.ropCosts.total() + summary.prCosts.total());
-    finite(summary.ropInvestment + summary.prInvestment);
     return summary;
 }
 

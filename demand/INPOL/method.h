@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "demand/INPOL/problem.h"
+#include "shell/base/number.h"
 #include "shell/base/table.h"
 
 namespace vantore::inpol {
@@ -19,14 +20,14 @@ namespace vantore::inpol {
 
 /// The annual costs of one policy, each a whole number of money units.
 struct AnnualCosts {
-    double purchase = 0;
-    double transport = 0;
-    double carrying = 0;
-    double orderProcessing = 0;
-    double outOfStock = 0;
-    double safetyStock = 0;
+    Number purchase;
+    Number transport;
+    Number carrying;
+    Number orderProcessing;
+    Number outOfStock;
+    Number safetyStock;
 
-    double total() const {
+    Number total() const {
         return purchase + transport + carrying + orderProcessing + outOfStock + safetyStock;
     }
     AnnualCosts& operator+=(const AnnualCosts& other);
@@ -36,27 +37,27 @@ struct AnnualCosts {
 /// review. With joint orders there is only the periodic review; its reorder quantity and average inventory
 /// of the other policy are 1.
 struct StockingPolicies {
-    double ropQ = 0; ///< order quantity
-    double prQ = 0;
-    double sigma = 0;  ///< standard deviation of demand over the lead time
-    double sigmaP = 0; ///< and over review and lead time
-    double ropLoss = 0;
-    double prLoss = 0;
-    double ropSafety = 0; ///< safety stock
-    double prSafety = 0;
-    double reorderPoint = 0;
-    double maxLevel = 0;
-    double reviewTime = 0;
-    double ropAvgInv = 0; ///< average inventory
-    double prAvgInv = 0;
-    double ropInStock = 0; ///< fraction of demand filled from stock
-    double prInStock = 0;
+    Number ropQ; ///< order quantity
+    Number prQ;
+    Number sigma;  ///< standard deviation of demand over the lead time
+    Number sigmaP; ///< and over review and lead time
+    Number ropLoss;
+    Number prLoss;
+    Number ropSafety; ///< safety stock
+    Number prSafety;
+    Number reorderPoint;
+    Number maxLevel;
+    Number reviewTime;
+    Number ropAvgInv; ///< average inventory
+    Number prAvgInv;
+    Number ropInStock; ///< fraction of demand filled from stock
+    Number prInStock;
     AnnualCosts ropCosts;
     AnnualCosts prCosts;
-    double ropTurnover = 0; ///< annual demand over average inventory
-    double prTurnover = 0;
-    double ropInvestment = 0;
-    double prInvestment = 0;
+    Number ropTurnover; ///< annual demand over average inventory
+    Number prTurnover;
+    Number ropInvestment;
+    Number prInvestment;
 };
 
 using ProductPolicies = Table<StockingPolicies, 1, mostProducts>;
@@ -99,8 +100,8 @@ void runProcedure(Procedure procedure, Problem& problem, ProductPolicies& polici
 struct Summary {
     AnnualCosts ropCosts;
     AnnualCosts prCosts;
-    double ropInvestment = 0;
-    double prInvestment = 0;
+    Number ropInvestment;
+    Number prInvestment;
 };
 
 Summary summaryOf(const ProductPolicies& policies, int productCount);

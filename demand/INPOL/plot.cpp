@@ -31,13 +31,13 @@ struct Range {
 
 /// A row as the chosen system sees it.
 struct Figures {
-    double service, cost, inventory, orderPoint;
+    Number service, cost, inventory, orderPoint;
 };
 
 Figures figuresOf(const SensitivityRow& row, PlottedSystem system) {
     if (system == PlottedSystem::ReorderPoint)
-        return {finite(100 * row.ropInStock), row.ropTotal, row.ropAvgInv, row.reorderPoint};
-    return {finite(100 * row.prInStock), row.prTotal, row.prAvgInv, row.maxLevel};
+        return {100 * row.ropInStock, row.ropTotal, row.ropAvgInv, row.reorderPoint};
+    return {100 * row.prInStock, row.prTotal, row.prAvgInv, row.maxLevel};
 }
 
 ChartPoint pointOf(const Figures& figures, PlottedCurve curve) {
@@ -61,9 +61,9 @@ bool showsCost(PlottedCurve curve) {
 }
 
 /// Takes the axis' start off all horizontal values and gives the start.
-double shiftToStart(std::vector<ChartPoint>& points, double least) {
-    const double start = wholePart(finite(100 * least)) / 100;
-    for (ChartPoint& point : points) point.x = finite(point.x - start);
+double shiftToStart(std::vector<ChartPoint>& points, Number least) {
+    const Number start = wholePart(100 * least) / 100;
+    for (ChartPoint& point : points) point.x = point.x - start;
     return start;
 }
 

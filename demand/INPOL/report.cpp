@@ -14,12 +14,12 @@ constexpr const char* wholeMask = "#,###,###,##0";
 constexpr const char* moneyMask = "$#,###,###,##0";
 constexpr const char* productCostMask = "$#,###,###,##0#";
 
-std::string whole(double value, const char* mask) {
-    return format(wholePart(finite(value + .5)), mask);
+std::string whole(Number value, const char* mask) {
+    return format(wholePart(value + .5), mask);
 }
 
-std::string percent(double fraction, const char* mask) {
-    return format(finite(100 * fraction), mask);
+std::string percent(Number fraction, const char* mask) {
+    return format(100 * fraction, mask);
 }
 
 void printValue(PrintLines& page, const char* label, const std::string& value) {
@@ -80,8 +80,8 @@ void printTableHeading(PrintLines& page, int tab, const char* title, int product
 }
 
 /// One row; the two figures in the middle come as texts, the last two as whole numbers.
-void printTableRow(PrintLines& page, int level, double inStock, const std::string& third,
-                   const std::string& fourth, double averageInventory, double total) {
+void printTableRow(PrintLines& page, int level, Number inStock, const std::string& third,
+                   const std::string& fourth, Number averageInventory, Number total) {
     page.right(9, format(serviceLevel(level).probability, levelMask)).right(20, percent(inStock, levelMask));
     page.right(34, third).right(48, fourth);
     page.right(62, whole(averageInventory, tableMask)).right(76, whole(total, tableMask)).endLine();

@@ -8,16 +8,16 @@ namespace vantore::inpol {
 
 /// What becomes of a product's policies at one service level of the table.
 struct SensitivityRow {
-    double ropInStock = 0;
-    double ropQ = 0;
-    double ropAvgInv = 0;
-    double reorderPoint = 0;
-    double ropTotal = 0;
-    double prInStock = 0;
-    double prAvgInv = 0;
-    double maxLevel = 0;
-    double reviewTime = 0;
-    double prTotal = 0;
+    Number ropInStock;
+    Number ropQ;
+    Number ropAvgInv;
+    Number reorderPoint;
+    Number ropTotal;
+    Number prInStock;
+    Number prAvgInv;
+    Number maxLevel;
+    Number reviewTime;
+    Number prTotal;
 };
 
 struct Sensitivity {

@@ -9,7 +9,7 @@ namespace vantore::inpol {
 
 namespace {
 
-/// Values as they have always been, rounded by hand here and there: answers hang on them.
+/// Values rounded by hand here and there: they stay as they are, since answers hang on them.
 constexpr std::array<ServiceLevel, serviceLevels> levels = {{
     {.5, 0, .3989},       {.505, .0125, .3928},  {.51, .025, .3852},   {.515, .0375, .3805},
     {.52, .05, .3744},    {.525, .06724, .3662}, {.53, .07525, .3624}, {.535, .08775, .3566},

@@ -13,11 +13,11 @@ constexpr double tolerance = 0.000001;
 constexpr double leastPivot = 0.000001;
 constexpr int mostSets = 1 << (columnCount - 1); // sets of independent variables
 
-using Matrix = Table2<double, 1, columnCount, 1, columnCount>;
+using Matrix = Table2<DoubleDouble, 1, columnCount, 1, columnCount>;
 
 /// The variables' products with each other and with a column of ones.
 struct CrossProducts {
-    Table<double, 1, columnCount> sum;
+    Table<DoubleDouble, 1, columnCount> sum;
     Matrix product;
 };
 
@@ -27,7 +27,7 @@ CrossProducts crossProductsOf(const Observations& observations) {
         for (int j = 1; j <= observations.variableCount; ++j) {
             raw.sum(j) += observations.x(i, j);
             for (int k = 1; k <= observations.variableCount; ++k)
-                raw.product(j, k) += observations.x(i, j) * observations.x(i, k);
+                raw.product(j, k) += DoubleDouble(observations.x(i, j)) * observations.x(i, k);
         }
     return raw;
 }
@@ -56,7 +56,7 @@ class Procedure {
     Step pass();
     void weigh();
     void fit(Step& step) const;
-    Term termOf(int k, double standardError) const;
+    Term termOf(int k, Number standardError) const;
     bool leaves(Step& step) const;
     bool enters(Step& step) const;
     bool isEndless();
@@ -68,8 +68,8 @@ class Procedure {
     Criteria criteria_;
     int df_;
     Matrix r_;
-    unsigned in_ = 0;                 // the variables in the equation, variable k in bit k - 1
-    Table<double, 1, columnCount> v_; // what each variable takes off r(y,y), below 0 for one that is in
+    unsigned in_ = 0;                       // the variables in the equation, variable k in bit k - 1
+    Table<DoubleDouble, 1, columnCount> v_; // what each variable takes off r(y,y), below 0 for one that is in
     Table<int, 0, mostSets - 1> visits_;
 };
 
@@ -100,21 +100,21 @@ Step Procedure::pass() {
 void Procedure::weigh() {
     for (int k = 1; k < y_; ++k) {
         v_(k) = 0;
-        if (std::abs(r_(k, k)) <= tolerance) continue;
-        const double v = r_(k, y_) * r_(y_, k) / r_(k, k);
+        if (abs(r_(k, k)) <= tolerance) continue;
+        const DoubleDouble v = r_(k, y_) * r_(y_, k) / r_(k, k);
         // Where nothing is left to explain rounding can give V the other side's sign.
-        v_(k) = isIn(k) ? -std::abs(v) : std::max(v, 0.0);
+        v_(k) = isIn(k) ? -abs(v) : std::max(v, DoubleDouble(0));
     }
 }
 
 void Procedure::fit(Step& step) const {
-    const double total = moments_.squares(y_);
-    const double residual = std::max(r_(y_, y_), 0.0) * total; // below 0 by rounding only
+    const Number total = moments_.squares(y_);
+    const Number residual = std::max(r_(y_, y_).value(), 0.0) * total; // below 0 by rounding only
     step.degreesOfFreedom = df_;
     step.entered = std::max(n_ - df_ - 1, 1);
-    step.standardError = squareRoot(divide(residual, df_));
-    step.rSquare = 1 - divide(residual, total);
-    step.totalF = divide(divide(df_, step.entered) * step.rSquare, 1 - step.rSquare);
+    step.standardError = squareRoot(residual / df_);
+    step.rSquare = 1 - residual / total;
+    step.totalF = Number(df_) / step.entered * step.rSquare / (1 - step.rSquare);
     if (criteria_.positive) {
         step.rSquare = std::abs(step.rSquare);
         step.totalF = std::abs(step.totalF);
@@ -125,15 +125,15 @@ void Procedure::fit(Step& step) const {
         step.terms.push_back(termOf(k, step.standardError));
         step.intercept -= step.terms.back().coefficient * moments_.mean(k);
     }
-    finite(step.intercept);
 }
 
-Term Procedure::termOf(int k, double standardError) const {
-    Term term{.variable = k};
-    term.coefficient = divide(r_(k, y_) * moments_.deviation(y_), moments_.deviation(k));
+Term Procedure::termOf(int k, Number standardError) const {
+    Term term;
+    term.variable = k;
+    term.coefficient = r_(k, y_) * moments_.deviation(y_) / moments_.deviation(k);
     term.standardError =
-        divide(standardError * squareRoot(r_(k, k)), moments_.deviation(k) * squareRoot(n_ - 1));
-    term.tRatio = divide(term.coefficient, term.standardError);
+        standardError * squareRoot(r_(k, k).value()) / (moments_.deviation(k) * squareRoot(n_ - 1));
+    term.tRatio = term.coefficient.value() / term.standardError;
     return term;
 }
 
@@ -143,7 +143,7 @@ bool Procedure::leaves(Step& step) const {
         if (v_(k) < 0 && (weakest == 0 || v_(k) > v_(weakest))) weakest = k;
     if (weakest == 0) return false;
     step.moved = weakest;
-    step.incrementalF = divide(df_ * std::abs(v_(weakest)), r_(y_, y_));
+    step.incrementalF = (df_ * abs(v_(weakest)) / r_(y_, y_)).value();
     return step.incrementalF < criteria_.leavingLevel;
 }
 
@@ -155,8 +155,10 @@ bool Procedure::enters(Step& step) const {
     step.incrementalF = 0;
     if (strongest == 0) return false;
     // No variable explains more than there is; a residual below 0 is rounding, and an exact fit has no F.
-    const double residual = std::max(r_(y_, y_) - v_(strongest), 0.0);
-    step.incrementalF = divide((df_ - 1) * v_(strongest), residual);
+    // Where the variable takes the last degree of freedom any fit is exact, and the F is 0 whatever rounding
+    // leaves.
+    const DoubleDouble residual = std::max(r_(y_, y_) - v_(strongest), DoubleDouble(0));
+    if (df_ > 1) step.incrementalF = ((df_ - 1) * v_(strongest) / residual).value();
     return step.incrementalF > criteria_.enteringLevel;
 }
 
@@ -167,11 +169,11 @@ bool Procedure::isEndless() {
 
 void Procedure::sweep(int k) {
     if (r_(k, k) <= 0) r_(k, k) = leastPivot;
-    const double b = divide(1, r_(k, k));
+    const DoubleDouble b = 1 / r_(k, k);
     for (int j = 1; j <= y_; ++j) r_(k, j) *= b;
     for (int i = 1; i <= y_; ++i) {
         if (i == k) continue;
-        const double c = -r_(i, k);
+        const DoubleDouble c = -r_(i, k);
         for (int j = 1; j <= y_; ++j) r_(i, j) += c * r_(k, j);
         r_(i, k) = c * b;
     }
@@ -186,18 +188,17 @@ std::optional<Moments> momentsOf(const Observations& observations) {
     const int p = observations.variableCount;
     Moments moments;
     for (int j = 1; j <= p; ++j) {
-        moments.mean(j) = divide(raw.sum(j), n);
+        moments.mean(j) = raw.sum(j) / n;
         for (int k = 1; k <= p; ++k)
-            moments.correlation(j, k) = finite(raw.product(j, k) - raw.sum(j) * raw.sum(k) / n);
-        moments.squares(j) = moments.correlation(j, j);
+            moments.correlation(j, k) = raw.product(j, k) - raw.sum(j) * raw.sum(k) / n;
+        moments.squares(j) = moments.correlation(j, j).value();
         const double variance = divide(moments.squares(j), n - 1);
         if (variance <= 0 || isConstant(observations, j)) return std::nullopt;
         moments.deviation(j) = squareRoot(variance);
     }
     for (int j = 1; j <= p; ++j)
         for (int k = 1; k <= p; ++k)
-            moments.correlation(j, k) =
-                divide(divide(moments.correlation(j, k), moments.deviation(j) * moments.deviation(k)), n - 1);
+            moments.correlation(j, k) /= DoubleDouble(moments.deviation(j)) * moments.deviation(k) * (n - 1);
     return moments;
 }
 
@@ -207,18 +208,18 @@ std::vector<Step> regress(const Moments& moments, int observationCount, int vari
 }
 
 double estimate(const Step& step, const Observations& observations, int i) {
-    double value = step.intercept;
+    DoubleDouble value = step.intercept;
     for (const Term& term : step.terms) value += term.coefficient * observations.x(i, term.variable);
-    return finite(value);
+    return value.value();
 }
 
-AnalysisOfVariance varianceOf(const Step& step, double deviation, int observationCount) {
+AnalysisOfVariance varianceOf(const Step& step, Number deviation, int observationCount) {
     AnalysisOfVariance result;
-    result.totalSquares = finite(deviation * deviation * (observationCount - 1));
-    result.regressionSquares = finite(result.totalSquares * step.rSquare);
+    result.totalSquares = deviation * deviation * (observationCount - 1);
+    result.regressionSquares = result.totalSquares * step.rSquare;
     result.residualSquares = result.totalSquares - result.regressionSquares;
-    result.regressionMean = divide(result.regressionSquares, step.entered);
-    result.residualMean = divide(result.residualSquares, step.degreesOfFreedom);
+    result.regressionMean = result.regressionSquares / step.entered;
+    result.residualMean = result.residualSquares / step.degreesOfFreedom;
     return result;
 }
 

@@ -4,21 +4,25 @@
 #include <vector>
 
 #include "demand/MULREG/problem.h"
+#include "shell/base/double_double.h"
+#include "shell/base/number.h"
 
 namespace vantore::mulreg {
 
 /// Linear regression of the last variable on the others, stepwise on their correlation matrix.
 ///
 /// Source: Efroymson, "Multiple regression analysis", in Ralston and Wilf, Mathematical Methods for Digital
-/// Computers (1960). Variables are numbered 1 to p as in `Observations`; p is the dependent one. All sums are
-/// taken over the plain values, so about as many digits are lost as the mean has before the deviation begins.
+/// Computers (1960). Variables are numbered 1 to p as in `Observations`; p is the dependent one. The sums
+/// over the plain values lose as many digits as the mean has before the deviation begins; they and all that
+/// is computed from them have twice the digits of a double, which leaves enough for any data that can be
+/// typed.
 
 /// Means, deviations and correlations of the variables.
 struct Moments {
-    Table<double, 1, columnCount> mean;
+    Table<DoubleDouble, 1, columnCount> mean;
     Table<double, 1, columnCount> deviation;
     Table<double, 1, columnCount> squares; ///< corrected sum of squares
-    Table2<double, 1, columnCount, 1, columnCount> correlation;
+    Table2<DoubleDouble, 1, columnCount, 1, columnCount> correlation;
 };
 
 /// Nothing when a variable has no deviation: all its values are equal, or differ by no more than rounding.
@@ -28,9 +32,9 @@ std::optional<Moments> momentsOf(const Observations& observations);
 /// A variable in the equation.
 struct Term {
     int variable = 0;
-    double coefficient = 0;
-    double standardError = 0;
-    double tRatio = 0;
+    DoubleDouble coefficient;
+    Number standardError;
+    Number tRatio;
 };
 
 /// The equation at one pass, and how the pass ends.
@@ -42,11 +46,11 @@ struct Step {
         Endless       ///< variables enter and leave in a circle
     };
 
-    double intercept = 0;
+    DoubleDouble intercept;
     std::vector<Term> terms; ///< in the order of the variables
-    double standardError = 0;
-    double rSquare = 0;
-    double totalF = 0;
+    Number standardError;
+    Number rSquare;
+    Number totalF;
     int degreesOfFreedom = 0; ///< of the residual
     int entered = 0;          ///< variables entered, 1 when there are none
     End end = End::Insufficient;
@@ -66,7 +70,8 @@ struct Criteria {
 constexpr int mostReturns = 5;
 
 /// The steps from the intercept alone to the last. There is always at least one.
-/// DivisionByZero when no degree of freedom is left or the equation fits without any residual.
+/// A variable that would leave no degree of freedom has an F of 0. DivisionByZero when one enters all the
+/// same, or when the equation fits without any residual.
 std::vector<Step> regress(const Moments& moments, int observationCount, int variableCount,
                           const Criteria& criteria);
 
@@ -74,14 +79,14 @@ std::vector<Step> regress(const Moments& moments, int observationCount, int vari
 double estimate(const Step& step, const Observations& observations, int i);
 
 struct AnalysisOfVariance {
-    double regressionSquares = 0;
-    double residualSquares = 0;
-    double totalSquares = 0;
-    double regressionMean = 0;
-    double residualMean = 0;
+    Number regressionSquares;
+    Number residualSquares;
+    Number totalSquares;
+    Number regressionMean;
+    Number residualMean;
 };
 
 /// The analysis of variance of a step. `deviation` is that of the dependent variable.
-AnalysisOfVariance varianceOf(const Step& step, double deviation, int observationCount);
+AnalysisOfVariance varianceOf(const Step& step, Number deviation, int observationCount);
 
 } // namespace vantore::mulreg

@@ -74,7 +74,10 @@ void Writer::moment(const char* title, const Moment& values) {
 }
 
 void Writer::moments() {
-    moment(" Means", moments_.mean);
+    Moment means;
+    for (int variable = 1; variable <= dependent(); ++variable)
+        means(variable) = moments_.mean(variable).value();
+    moment(" Means", means);
     moment(" Standard deviations", moments_.deviation);
 }
 
@@ -84,7 +87,7 @@ void Writer::correlations() {
         page_.text(" " + shortNameOf(j));
         for (int k = 1; k <= dependent(); ++k)
             page_.right(correlationColumns.at(static_cast<std::size_t>(k - 1)),
-                        format(moments_.correlation(j, k), "#.##0"));
+                        format(moments_.correlation(j, k).value(), "#.##0"));
         page_.endLine();
     }
 }
@@ -101,10 +104,13 @@ void Writer::steps() {
 void Writer::step(const Step& step) {
     page_.line("                            B      Standard ");
     page_.line(" Variable         Index     coef.  deviation    T-Ratio");
-    page_.text(" Intercept").right(24, "0").right(34, format(step.intercept, "##,###.###0")).endLine();
+    page_.text(" Intercept")
+        .right(24, "0")
+        .right(34, format(step.intercept.value(), "##,###.###0"))
+        .endLine();
     for (const Term& term : step.terms) {
         page_.text(" " + shortNameOf(term.variable)).right(24, defaultText(columnOf(term.variable)));
-        page_.right(34, format(term.coefficient, "##,###.###0"));
+        page_.right(34, format(term.coefficient.value(), "##,###.###0"));
         page_.right(45, format(term.standardError, coefficientMask));
         page_.right(56, format(term.tRatio, coefficientMask)).endLine();
     }
@@ -151,9 +157,10 @@ void Writer::analysisOfVariance() {
 void Writer::summary() {
     page_.line(" SUMMARY");
     page_.line(" The estimating equation is:");
-    page_.line(" Y (" + nameOf(dependent()) + ") = " + format(last_.intercept, "#,###,###,###.###0"));
+    page_.line(" Y (" + nameOf(dependent()) + ") = " + format(last_.intercept.value(), "#,###,###,###.###0"));
     for (const Term& term : last_.terms)
-        page_.line(" + " + format(term.coefficient, "###,###,###.###0") + " x " + nameOf(term.variable));
+        page_.line(" + " + format(term.coefficient.value(), "###,###,###.###0") + " x " +
+                   nameOf(term.variable));
     page_.line(" with a standard error of estimate = " + format(last_.standardError, coefficientMask));
     page_.line(" and an R-square of  " + format(last_.rSquare, shareMask));
 }

@@ -1,6 +1,7 @@
 #include "demand/MULREG/transformation.h"
 
 #include "shell/base/arithmetic.h"
+#include "shell/base/number.h"
 #include "shell/base/text.h"
 
 namespace vantore::mulreg {
@@ -23,14 +24,15 @@ std::optional<std::string> valueQuestion(Transformation transformation) {
     return std::nullopt;
 }
 
-double transformed(double x, Transformation transformation, double a) {
+double transformed(double value, Transformation transformation, double a) {
+    const Number x = value;
     switch (transformation) {
-    case Transformation::Multiply: return finite(a * x);
+    case Transformation::Multiply: return a * x;
     case Transformation::Power: return power(x, a);
     case Transformation::NaturalLog: return naturalLog(x);
-    case Transformation::Add: return finite(a + x);
-    case Transformation::Subtract: return finite(x - a);
-    case Transformation::Divide: return divide(x, a);
+    case Transformation::Add: return a + x;
+    case Transformation::Subtract: return x - a;
+    case Transformation::Divide: return x / a;
     }
     return x;
 }

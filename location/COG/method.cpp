@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "shell/base/arithmetic.h"
+#include "shell/base/number.h"
 
 namespace vantore::cog {
 
@@ -11,18 +12,18 @@ namespace {
 constexpr double leastDistance = 0.000001;
 
 double distance(const Problem& problem, Location from, const Point& to) {
-    const double dx = std::abs(from.x - to.x);
-    const double dy = std::abs(from.y - to.y);
-    return power(finite(dx * dx + dy * dy), problem.powerFactor);
+    const Number dx = std::abs(from.x - to.x);
+    const Number dy = std::abs(from.y - to.y);
+    return power(dx * dx + dy * dy, problem.powerFactor);
 }
 
 /// Sums of w, w x and w y over the points.
 struct WeightedSums {
-    double x = 0;
-    double y = 0;
-    double weight = 0;
+    Number x;
+    Number y;
+    Number weight;
 
-    Location mean() const { return {divide(x, weight), divide(y, weight)}; }
+    Location mean() const { return {x / weight, y / weight}; }
 };
 
 /// `divisorOf` gives what each weight is divided by.
@@ -42,12 +43,12 @@ WeightedSums sumsOf(const Problem& problem, Divisor divisorOf) {
 } // namespace
 
 double totalCost(const Problem& problem, Location at) {
-    double cost = 0;
+    Number cost;
     for (int i = 1; i <= problem.rowCount; ++i) {
         const Point& point = problem.points(i);
         cost += point.volume * point.rate * problem.mapFactor * distance(problem, at, point);
     }
-    return finite(cost);
+    return cost;
 }
 
 std::optional<Location> centreOfGravity(const Problem& problem) {

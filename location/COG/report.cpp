@@ -8,8 +8,9 @@ namespace vantore::cog {
 
 namespace {
 
-constexpr double margin = 8;      // units of the design
-constexpr double lineHeight = 16; // units of the design
+constexpr double margin = 8;               // units of the design
+constexpr double lineHeight = 16;          // units of the design
+constexpr std::size_t costCharacters = 20; // that fit behind the coordinates in the column
 constexpr int rowsOfTable = 19;
 constexpr double overflowRowTop = 400;
 
@@ -40,7 +41,12 @@ std::string rowText(const Cycle& cycle) {
     row.text(iterationText(cycle.number));
     row.right(26, coordinateText(cycle.location.x, firstRow));
     row.right(41, coordinateText(cycle.location.y, firstRow));
-    row.right(61, costText(cycle.cost, firstRow));
+    const std::string cost = costText(cycle.cost, firstRow);
+    if (cost.size() <= costCharacters) {
+        row.right(61, cost);
+    } else {
+        row.text(" " + cost);
+    }
     if (firstRow) row.text(" <-- COG");
     return row.endLine().lines().front();
 }

@@ -23,7 +23,8 @@ struct Cycle {
 };
 
 /// The row of a cycle. The table has room for 19 rows behind row 0; from there on each row takes the place
-/// of the one before it, which is wiped by printing it in the paper's colour.
+/// of the one before it, which is wiped by printing it in the paper's colour. A cost too long for its column
+/// stands behind the coordinates.
 void printCycle(PictureSurface& surface, Scale scale, const Cycle& cycle, const Cycle& previous);
 
 /// The location that the user has specified, its coordinates as typed, and its cost.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "shell/base/case_folding.h"
+
 namespace vantore {
 
 namespace {
@@ -52,6 +54,15 @@ std::size_t sequenceLength(std::string_view text, std::size_t at) {
     return secondByteFits(byteAt(text, at), byteAt(text, at + 1)) ? count : 0;
 }
 
+/// The code point of the valid sequence at `at`.
+char32_t codePointAt(std::string_view text, std::size_t at) {
+    const std::size_t count = sequenceLength(text, at);
+    if (count == 1) return byteAt(text, at);
+    char32_t point = byteAt(text, at) & (0x7FU >> count);
+    for (std::size_t i = 1; i < count; ++i) point = (point << 6U) | (byteAt(text, at + i) & 0x3FU);
+    return point;
+}
+
 std::size_t step(std::string_view text, std::size_t at) {
     return std::max<std::size_t>(1, sequenceLength(text, at));
 }
@@ -93,16 +104,8 @@ std::vector<std::string> characters(std::string_view text) {
 
 std::vector<char32_t> codePoints(std::string_view text) {
     std::vector<char32_t> result;
-    for (std::size_t at = 0; at < text.size(); at += step(text, at)) {
-        const std::size_t count = sequenceLength(text, at);
-        if (count < 2) {
-            result.push_back(count == 1 ? byteAt(text, at) : replacementCharacter);
-            continue;
-        }
-        char32_t point = byteAt(text, at) & (0x7FU >> count);
-        for (std::size_t i = 1; i < count; ++i) point = (point << 6U) | (byteAt(text, at + i) & 0x3FU);
-        result.push_back(point);
-    }
+    for (std::size_t at = 0; at < text.size(); at += step(text, at))
+        result.push_back(sequenceLength(text, at) == 0 ? replacementCharacter : codePointAt(text, at));
     return result;
 }
 
@@ -164,8 +167,21 @@ std::string lowerCase(std::string_view text) {
     return result;
 }
 
+std::string caseFolded(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); at += step(text, at)) {
+        if (sequenceLength(text, at) == 0) {
+            result += text[at];
+        } else {
+            result += utf8(caseFolded(codePointAt(text, at)));
+        }
+    }
+    return result;
+}
+
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && lowerCase(a) == lowerCase(b);
+    return caseFolded(a) == caseFolded(b);
 }
 
 std::vector<std::string> lines(std::string_view text) {

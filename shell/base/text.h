@@ -45,7 +45,11 @@ std::string trimmedRight(std::string_view text);
 std::string upperCase(std::string_view text);
 std::string lowerCase(std::string_view text);
 
-/// Equal but for the case of ASCII letters.
+/// `text` with every Latin, Greek and Cyrillic letter in the form in which its cases compare equal: small,
+/// with the sharp s, the long s and the final sigma as their plain forms. Bytes that are no valid UTF-8 stay.
+std::string caseFolded(std::string_view text);
+
+/// Equal but for the case of letters, accented ones too.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 
 /// The lines of a text whose lines end in CR LF, LF or CR. A line end at the very end opens no

@@ -2,10 +2,12 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <memory>
-#include <random>
+#include <optional>
 #include <system_error>
 
+#include "shell/base/output_file.h"
 #include "shell/base/runtime_error.h"
 #include "shell/base/text.h"
 
@@ -16,54 +18,17 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::uintmax_t largestFile = 256ULL * 1024 * 1024;
-
-RuntimeError errorFor(int cause, const fs::path& path) {
-    std::error_code ignored;
-    switch (cause) {
-    case ENOENT:
-        return RuntimeError(fs::is_directory(path.parent_path(), ignored) ? ErrorNumber::FileNotFound
-                                                                          : ErrorNumber::PathNotFound);
-    case ENOTDIR: return RuntimeError(ErrorNumber::PathNotFound);
-    case EACCES:
-    case EPERM:
-    case EROFS: return RuntimeError(ErrorNumber::PermissionDenied);
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG: return RuntimeError(ErrorNumber::DiskFull);
-    case ENAMETOOLONG:
-    case EINVAL: return RuntimeError(ErrorNumber::BadFileName);
-    case ENODEV:
-    case ENXIO: return RuntimeError(ErrorNumber::DeviceUnavailable);
-    default: return RuntimeError(ErrorNumber::PathFileAccess);
-    }
-}
+constexpr unsigned modeOfNewFiles = 0666; // less the user's mask
 
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-File openFile(const fs::path& path, const char* mode) {
-    errno = 0;
-    File file(std::fopen(path.c_str(), mode));
-    if (!file) throw errorFor(errno, path);
+File openFile(const fs::path& path) {
+    File file(std::fopen(path.c_str(), "rb"));
+    if (!file) throw fileError(errno, path);
     return file;
-}
-
-void writeContent(const fs::path& path, std::string_view content) {
-    File file = openFile(path, "wb");
-    errno = 0;
-    const std::size_t written = std::fwrite(content.data(), 1, content.size(), file.get());
-    if (written != content.size() || std::fflush(file.get()) != 0) throw errorFor(errno, path);
-    if (std::fclose(file.release()) != 0) throw errorFor(errno, path);
-}
-
-/// A free name beside the file, so that the rename stays on one file system.
-fs::path besideName(const fs::path& path) {
-    std::random_device random;
-    fs::path beside = path.parent_path();
-    beside /= "." + path.filename().string().substr(0, 200) + "." + std::to_string(random()) + ".tmp";
-    return beside;
 }
 
 } // namespace
@@ -83,10 +48,12 @@ fs::path existingSpelling(const fs::path& path) {
     if (path.filename().empty() || fs::exists(fs::symlink_status(path, error))) return path;
     const std::string wanted = textOf(path.filename());
     const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    std::optional<fs::path> found;
     fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error))
-        if (equalIgnoringCase(textOf(entry->path().filename()), wanted)) return entry->path();
-    return path;
+        if (equalIgnoringCase(textOf(entry->path().filename()), wanted) && (!found || entry->path() < *found))
+            found = entry->path();
+    return found.value_or(path);
 }
 
 std::string readTextFile(const fs::path& path) {
@@ -94,7 +61,7 @@ std::string readTextFile(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(existing, error);
     if (fs::exists(status) && !fs::is_regular_file(status)) throw RuntimeError(ErrorNumber::PathFileAccess);
-    const File file = openFile(existing, "rb");
+    const File file = openFile(existing);
     if (fs::file_size(existing, error) > largestFile && !error)
         throw RuntimeError(ErrorNumber::PathFileAccess);
     std::string bytes;
@@ -114,28 +81,9 @@ std::vector<std::string> readLines(const fs::path& path) {
 void writeLines(const fs::path& path, const std::vector<std::string>& lines) {
     std::string content;
     for (const std::string& line : lines) content.append(line).append("\r\n");
-    writeContent(existingSpelling(path), content);
-}
-
-void replaceFile(const fs::path& path, std::string_view content) {
-    fs::path target = existingSpelling(path);
-    std::error_code error;
-    if (fs::is_symlink(target, error)) target = fs::weakly_canonical(target, error);
-    if (fs::is_directory(target, error)) throw RuntimeError(ErrorNumber::PathFileAccess);
-    const fs::path beside = besideName(target);
-    try {
-        writeContent(beside, content);
-        const fs::file_status old = fs::status(target, error);
-        if (fs::exists(old)) fs::permissions(beside, old.permissions(), error);
-        fs::rename(beside, target, error);
-        if (error) throw errorFor(error.value(), target);
-    } catch (const RuntimeError& failure) {
-        std::error_code ignored;
-        fs::remove(beside, ignored);
-        // A folder that isn't there makes the file beside it fail as "not found".
-        if (failure.number() == ErrorNumber::FileNotFound) throw RuntimeError(ErrorNumber::PathNotFound);
-        throw;
-    }
+    OutputFile file(existingSpelling(path), O_CREAT | O_TRUNC, modeOfNewFiles);
+    file.write(content);
+    file.close();
 }
 
 } // namespace vantore

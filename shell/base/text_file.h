@@ -13,8 +13,8 @@ namespace vantore {
 std::filesystem::path pathOf(std::string_view utf8);
 std::string textOf(const std::filesystem::path& path);
 
-/// The file of that path; where there is none, the one whose name differs only in the case of its letters.
-/// Where there is neither, the path as it is.
+/// The file of that path; where there is none, the one whose name differs only in the case of its letters, of
+/// several the alphabetically first. Where there is neither, the path as it is.
 std::filesystem::path existingSpelling(const std::filesystem::path& path);
 
 /// The whole text as UTF-8. Errors: FileNotFound, PathNotFound, PermissionDenied, PathFileAccess (no plain
@@ -27,8 +27,11 @@ std::vector<std::string> readLines(const std::filesystem::path& path);
 /// Writes lines, each ended by CR LF, in place of what the file held. Errors as above, and DiskFull.
 void writeLines(const std::filesystem::path& path, const std::vector<std::string>& lines);
 
-/// Replaces a file whole or not at all: written beside it, then renamed over it. When it fails the old file
-/// stands as it was and nothing is left beside it.
+/// Replaces a file whole or not at all: written beside it, flushed to the disk, then renamed over it with its
+/// owner and mode. When it fails the old file stands as it was and nothing is left beside it; what a writer
+/// that was killed has left there is removed. PermissionDenied where the user may not write, and for an old
+/// file whose mode, or whose folder's mode, forbids it even where the user's rights would pass over that.
+/// PathFileAccess for what is no plain file and for a loop of links.
 void replaceFile(const std::filesystem::path& path, std::string_view content);
 
 } // namespace vantore

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "shell/base/text.h"
 #include "suite/module_list.h"
 #include "tests/support/form_faults.h"
 #include "tests/support/module_session.h"
@@ -58,8 +59,18 @@ TEST_P(EveryModule, SurvivesAFileThatHoldsAnythingAtAll) {
          damagedForms("\"Label\",1,2,3\r\n2\r\n\"A\",1,2,3,4\r\n\"B\",1,2,3,4\r\n")) {
         ModuleSession session;
         session.writeFile("BAD.dat", content);
-        session.play("module " + GetParam() + "\nfile BAD.dat\npress cmdOpen\ntitle");
+        session.play("module " + GetParam());
+        const std::vector<std::string> told = lines(session.play("file BAD.dat\npress cmdOpen"));
         EXPECT_EQ(session.readFile("BAD.dat"), content);
+        ASSERT_TRUE(!told.empty() && told.size() <= 2 && told[0].starts_with("OpenDialog ")) << content;
+        if (told.size() == 2) {
+            EXPECT_TRUE(told[1].starts_with("MessageBx ")) << told[1];
+            EXPECT_NE(told[1].find(" occurred in "), std::string::npos) << told[1];
+        }
+        // The window goes on as if nothing had been.
+        EXPECT_EQ(lines(session.play("file NEW.dat\npress cmdOpen")).size(), 1U);
+        EXPECT_EQ(session.module().view(), View::Data);
+        EXPECT_EQ(together(formFaults(session.module())), "") << content;
     }
 }
 

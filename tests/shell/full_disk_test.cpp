@@ -1,33 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
+#include "tests/support/full_disk.h"
 #include "tests/support/module_session.h"
 
 namespace vantore::tests {
 namespace {
-
-/// No file may grow beyond `bytes` while it lives: what a full disk is to a program.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before_{};
-    void (*handler_)(int) = SIG_DFL;
-};
 
 constexpr const char* problem = "\"Two towns\",.5,1\r\n2\r\n\"A\",1,2,3,4\r\n\"B\",5,6,7,8\r\n";
 

@@ -48,7 +48,7 @@ TEST(ScriptPlayer, RefusesWhatAUserCanNotReach) {
 
 TEST(ScriptPlayer, RefusesTheLauncherBehindAModule) {
     ModuleSession session;
-    session.play("launcher");
+    session.play("launcher\npress Continue");
     EXPECT_EQ(session.play("module COG\npress cmdHelp\npress COG1"),
               "refused: cmdHelp is disabled\nrefused: COG1 is disabled\n");
 }

@@ -23,14 +23,31 @@ std::string get(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::size_t entriesIn(const fs::path& folder) {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-}
-
 TEST(ReadTextFile, FindsANameWhateverTheCaseOfItsLetters) {
     const TemporaryFolder folder;
     put(folder.path() / "Output.Dat", "abc");
     EXPECT_EQ(readTextFile(folder.path() / "OUTPUT.DAT"), "abc");
+}
+
+TEST(ExistingSpelling, FindsAccentedLettersWhateverTheirCase) {
+    const TemporaryFolder folder;
+    put(folder.path() / "COG M\u00fcnster \u0395\u03bb\u03bb\u03ac\u03c2.dat", "");
+    EXPECT_EQ(existingSpelling(folder.path() / "cog M\u00dcNSTER \u0395\u039b\u039b\u0386\u03a3.DAT"),
+              folder.path() / "COG M\u00fcnster \u0395\u03bb\u03bb\u03ac\u03c2.dat");
+}
+
+TEST(ExistingSpelling, PrefersTheExactOneAndThenTheFirstInTheAlphabet) {
+    const TemporaryFolder folder;
+    for (const char* name : {"cog1.DAT", "COG1.dat", "cog1.dat", "Cog1.dat"}) put(folder.path() / name, name);
+    for (const char* name : {"cog1.DAT", "COG1.dat", "cog1.dat", "Cog1.dat"})
+        EXPECT_EQ(readTextFile(folder.path() / name), name);
+    EXPECT_EQ(readTextFile(folder.path() / "COG1.DAT"), "COG1.dat");
+}
+
+TEST(ExistingSpelling, TellsNamesApartThatAreNoUtf8) {
+    const TemporaryFolder folder;
+    put(folder.path() / "\xFE.dat", "other");
+    EXPECT_EQ(existingSpelling(folder.path() / "\xFF.dat"), folder.path() / "\xFF.dat");
 }
 
 TEST(ReadTextFile, SaysWhyAFileCanNotBeRead) {
@@ -54,35 +71,7 @@ TEST(WriteLines, EndsEachLineByCrLfAndKeepsTheSpelling) {
     put(folder.path() / "output.dat", "old");
     writeLines(folder.path() / "OUTPUT.DAT", {"a", "", "b"});
     EXPECT_EQ(get(folder.path() / "output.dat"), "a\r\n\r\nb\r\n");
-    EXPECT_EQ(entriesIn(folder.path()), 1U);
-}
-
-TEST(ReplaceFile, LeavesNothingBesideTheFile) {
-    const TemporaryFolder folder;
-    replaceFile(folder.path() / "a b \xC3\xBC.dat", "one");
-    replaceFile(folder.path() / "a b \xC3\xBC.dat", "two");
-    EXPECT_EQ(get(folder.path() / "a b \xC3\xBC.dat"), "two");
-    EXPECT_EQ(entriesIn(folder.path()), 1U);
-}
-
-TEST(ReplaceFile, KeepsTheOldFileWhenItFails) {
-    const TemporaryFolder folder;
-    EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "no" / "x", "a"); }), ErrorNumber::PathNotFound);
-    fs::create_directory(folder.path() / "COG.dat");
-    EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "COG.dat", "a"); }), ErrorNumber::PathFileAccess);
-    EXPECT_EQ(entriesIn(folder.path()), 1U);
-}
-
-TEST(ReplaceFile, FollowsALinkAndKeepsThePermissions) {
-    const TemporaryFolder folder;
-    put(folder.path() / "real", "old");
-    fs::permissions(folder.path() / "real", fs::perms::owner_read | fs::perms::owner_write);
-    fs::create_symlink("real", folder.path() / "link");
-    replaceFile(folder.path() / "link", "new");
-    EXPECT_EQ(get(folder.path() / "real"), "new");
-    EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
-    EXPECT_EQ(fs::status(folder.path() / "real").permissions(),
-              fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_FALSE(fs::exists(folder.path() / "OUTPUT.DAT"));
 }
 
 } // namespace

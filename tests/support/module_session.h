@@ -44,8 +44,11 @@ class ModuleSession {
     ModuleFrame& module() const { return dynamic_cast<ModuleFrame&>(*player_->front()); }
 
     /// The window in front is the launcher's.
-    bool closed() const { return player_->front() == &player_->launcher(); }
-    const Launcher& launcher() const { return player_->launcher(); }
+    bool closed() const { return player_->front() == player_->launcher(); }
+    const Launcher& launcher() const { return *player_->launcher(); }
+
+    /// The launcher has ended the program.
+    bool ended() const { return player_->launcher() == nullptr; }
 
   private:
     TemporaryFolder folder_;

@@ -211,8 +211,13 @@ TEST(ForecastWindow, TakesTheLevelModelWhereNoneIsChosen) {
         "FRC02.dat\n" +
             told({"No forecasting model type selected."}));
     EXPECT_FALSE(session.fileExists("FRC02.dat"));
-    EXPECT_EQ(session.play("answer Yes\nfile FRC02.dat\npress cmdExit\nshow cmdExit").substr(0, 9),
-              "YesNoBx \"");
+    EXPECT_EQ(
+        session.play("answer Yes\nfile FRC02.dat\npress cmdExit\nshow txtLabel"),
+        "YesNoBx \"FORECAST\": \"Save data?\" -> Yes\n"
+        "SaveDialog \"Save forecasting data\" filter \"Time series forecasting (FRC*.dat)|FRC*.dat|\" -> "
+        "FRC02.dat\n" +
+            told({"No forecasting model type selected."}) + "txtLabel: visible enabled \"Drums\"\n");
+    EXPECT_FALSE(session.fileExists("FRC02.dat"));
     session.play("press optLevel\nfile FRC02.dat\npress cmdSave");
     EXPECT_EQ(session.readFile("FRC02.dat"), replaced(trendProblem, "5,3,2,2,", "5,3,2,1,"));
 }
@@ -377,17 +382,40 @@ TEST(ForecastFiles, SaveWhatWasOpened) {
     EXPECT_EQ(session.readFile("FRC02.dat"), trendProblem);
 }
 
+/// The problem as the window shows it.
+std::string onScreen(ModuleSession& session) {
+    return session.play("grid grdSeries\nshow txtLabel\nshow txtNoPrds\nshow txtSeasLen\nshow txtForPrds");
+}
+
 TEST(ForecastFiles, AreMetWithAMessageOrAProblemWhateverTheyHold) {
+    int refused = 0;
+    int solved = 0;
     for (const std::string& content : damagedForms(trendProblem)) {
         ModuleSession session;
         opened(session);
+        const std::string before = onScreen(session);
         session.writeFile("FRCBAD.dat", content);
-        session.play("file FRCBAD.dat\npress cmdOpen");
+        const std::string answer = session.play("file FRCBAD.dat\npress cmdOpen");
         EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(session.readFile("FRCBAD.dat"), content);
-        const std::string solved = session.play("press cmdSolve\nshow cmdContinue\nshow cmdSolve");
-        EXPECT_NE(solved.find(": visible"), std::string::npos) << content;
+        if (answer.find("MessageBx") != std::string::npos) {
+            ++refused;
+            EXPECT_NE(answer.find(" occurred in FORECAST, cmdOpen.\"\n"), std::string::npos) << answer;
+            EXPECT_EQ(onScreen(session), before) << content;
+        }
+        const std::string verdict = session.play("press cmdSolve");
+        if (session.module().view() == View::Report) {
+            ++solved;
+            EXPECT_TRUE(session.readFile("OUTPUT.DAT").starts_with("* TIME SERIES FORECASTING")) << content;
+            EXPECT_EQ(session.readFile("OUTPUT.DAT").find("nan"), std::string::npos) << content;
+            EXPECT_EQ(session.readFile("OUTPUT.DAT").find("inf"), std::string::npos) << content;
+        } else {
+            EXPECT_TRUE(verdict.starts_with("MessageBx \"FORECAST\": ")) << content << verdict;
+            EXPECT_FALSE(session.fileExists("OUTPUT.DAT")) << content;
+        }
     }
+    EXPECT_GT(refused, 10);
+    EXPECT_GT(solved, 10);
 }
 
 TEST(ForecastFiles, LoseNothingOfTheProblemOnScreenWhenTheyAreBad) {

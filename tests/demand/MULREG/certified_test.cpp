@@ -54,8 +54,8 @@ TEST(NorrisCalibration, AgreesWithTheCertifiedValuesToNineDigits) {
         EXPECT_GE(digits(value, expected), 9) << name;
         RecordProperty(name, std::to_string(digits(value, expected)));
     };
-    expectNineDigits("B0", step.intercept, certified::b0);
-    expectNineDigits("B1", step.terms[0].coefficient, certified::b1);
+    expectNineDigits("B0", step.intercept.value(), certified::b0);
+    expectNineDigits("B1", step.terms[0].coefficient.value(), certified::b1);
     expectNineDigits("StandardErrorOfB1", step.terms[0].standardError, certified::standardErrorOfB1);
     expectNineDigits("ResidualDeviation", step.standardError, certified::residualDeviation);
     expectNineDigits("RSquared", step.rSquare, certified::rSquared);
