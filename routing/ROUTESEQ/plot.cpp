@@ -185,7 +185,8 @@ void StopMap::drawRoute(PictureSurface& surface, Scale scale, const MeasuredSequ
     Pen pen(surface, scale);
     const SurfacePoint depot = place_(points_.front());
     SurfacePoint at = depot;
-    for (const double number : routing::destring(sequence.text).span()) {
+    const CountedTable<double> stops = routing::destring(sequence.text);
+    for (const double number : stops.span()) {
         const int stop = toInt32(number);
         checkIndex(stop, 0, static_cast<int>(points_.size()) - 1);
         const SurfacePoint next = place_(points_[static_cast<std::size_t>(stop)]);

@@ -45,8 +45,9 @@ class RestlessUser : public ScriptPlatform {
 };
 
 void pressAll(Suite& suite, RestlessUser& user) {
-    for (const char* name : {"cmdOpen", "cmdSolve", "cmdReport", "cmdPlot", "cmdPlotData", "cmdPrintPlot",
-                             "cmdContinue", "cmdPrintData", "cmdContinue", "cmdSave", "cmdExit"}) {
+    for (const char* name : {"cmdOpen", "cmdOpenFile", "cmdSolve", "cmdReport", "cmdContinue", "cmdPlot",
+                             "cmdPlotData", "cmdPath", "cmdZoom", "cmdPrintPlot", "cmdContinue",
+                             "cmdPrintData", "cmdContinue", "cmdSave", "cmdExit"}) {
         Form* module = suite.windows.front();
         if (module == nullptr) return;
         Control* control = module->find(name);

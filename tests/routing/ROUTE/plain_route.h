@@ -7,9 +7,9 @@
 
 namespace vantore::route::tests {
 
-/// A whole Solve as plain loops over arrays, the yardstick of the module: the boxes that it shows, the lines of
-/// its report and those of the paths' file. It shares the record and the number texts with the module, nothing
-/// else.
+/// A whole Solve as plain loops over arrays, the yardstick of the module: the boxes that it shows, the lines
+/// of its report and those of the paths' file. It shares the record and the number texts with the module,
+/// nothing else.
 struct PlainRun {
     std::vector<std::string> boxes;
     std::vector<std::string> report;
