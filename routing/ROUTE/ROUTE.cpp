@@ -28,7 +28,7 @@ const ModuleWording routeWording = {
 
 // Twips of the design.
 constexpr Rect nodeListPlace{120, 870, 9360, 2530};
-constexpr Rect arcListPlace{120, 3910, 9360, 2450};
+constexpr Rect arcListPlace{120, 3940, 9360, 2420};
 constexpr Rect surfacePlace{0, 0, 9600, 6420};
 constexpr Rect startPlace{1200, 1000, 7200, 5200};
 
@@ -83,9 +83,9 @@ void ROUTE::addNodeList() {
 }
 
 void ROUTE::addArcList() {
-    addLabel("lblNodeData", "CONNECTING NODE DATA", {120, 3430, 4000, 240}, {View::Data});
+    addLabel("lblNodeData", "CONNECTING NODE DATA", {120, 3410, 4000, 260}, {View::Data});
     addLabel("lblFromTo", "From --------------------------------   To -----------------------------------",
-             {1020, 3670, 8460, 240}, {View::Data});
+             {1020, 3670, 8460, 260}, {View::Data});
     GridRows& rows = addRowGrid("grdNodeData", arcListPlace, mostArcRows);
     grdNodeData = &rows.grid();
     arcs_ = {*grdNodeData,

@@ -29,14 +29,15 @@ const ModuleWording routeseqWording = {
         .title = "Selection",
         .yesPrints = false}};
 
-constexpr Rect gridPlace{120, 1480, 9360, 4850}; // twips of the design
+constexpr Rect gridPlace{120, 1530, 9360, 4800}; // twips of the design
+constexpr Rect startPlace{1200, 1450, 7200, 4850};
 constexpr Rect surfacePlace{0, 0, 9600, 6780};
 
 } // namespace
 
 ROUTESEQ::ROUTESEQ(Suite& suite) : ModuleFrame(suite, routeseqWording) {
     addControls();
-    addStart();
+    addStart("cmdOpen", startPlace);
     addDataButtons({});
     addReport();
     addPlot();
@@ -62,7 +63,7 @@ void ROUTESEQ::addControls() {
     StopSequencingProblem defaults;
     defaults.label = "Enter label";
     scalars_.show(defaults);
-    addLabel("lblStops", "STOP DATA", {120, 1240, 3000, 230}, {View::Data});
+    addLabel("lblStops", "STOP DATA", {120, 1255, 3000, 260}, {View::Data});
     Grid = &addRowGrid("Grid", gridPlace, mostStops).grid();
     stops_ = {*Grid,
               stopFields,

@@ -85,9 +85,8 @@ TEST_F(RouteWindow, PrintsItsData) {
     EXPECT_EQ(printed[2], "print \"FINDS THE SHORTEST ROUTE THROUGH A NETWORK\" Arial 14 colour 0");
     EXPECT_EQ(printed[3], "print \"\" Courier New 12 colour 0");
     EXPECT_EQ(printed[4], "print \"Title: Three towns\" Courier New 12 colour 0");
-    EXPECT_EQ(printed[17],
-              "print \"    2    2 Bourne                  3 Corby                         7.25\" "
-              "Courier New 12 colour 0");
+    EXPECT_EQ(printed[17], "print \"    2    2 Bourne                  3  Corby                     7.25\" "
+                           "Courier New 12 colour 0");
 }
 
 TEST_F(RouteWindow, NamesNodesByTheirNumbersHoweverTheseCome) {
