@@ -15,6 +15,8 @@
 #include "desktop/fonts.h"
 #include "desktop/printing.h"
 #include "desktop/programs.h"
+#include "processes/child_process.h"
+#include "processes/folder_lock.h"
 #include "shell/dialog_form.h"
 
 namespace vantore {
@@ -110,7 +112,11 @@ void DesktopPlatform::setPicture(const CapturedPicture& picture) {
 std::unique_ptr<RunningProgram> DesktopPlatform::start(const std::filesystem::path& program,
                                                        const std::filesystem::path& folder,
                                                        const std::vector<Variable>& environment) {
-    return startProgram(program, folder, environment);
+    return startProcess(program, folder, environment);
+}
+
+std::unique_ptr<FolderLock> DesktopPlatform::lock(const std::filesystem::path& folder) {
+    return lockFolder(folder);
 }
 
 bool DesktopPlatform::startSpreadsheet() {

@@ -29,6 +29,7 @@ class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public
     std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
                                           const std::filesystem::path& folder,
                                           const std::vector<Variable>& environment) override;
+    std::unique_ptr<FolderLock> lock(const std::filesystem::path& folder) override;
     bool startSpreadsheet() override;
 
     Extent screen() const override;
