@@ -9,10 +9,10 @@
 
 namespace vantore::routeseq {
 
-/// The stops of a short route in the order of visit, each once: the convex hull of depot and stops, into
-/// which the points inside are inserted one at a time. For the points of at least one stop. Sources: Norback
-/// and Love, "Geometric approaches to solving the traveling salesman problem" (1977), and the headers of its
-/// two steps.
+/// The stops of a short route in the order of visit, each once: the convex hull of depot and stops, with the
+/// points inside inserted one at a time. Needs at least one stop.
+/// Source: the convex hull approach of Norback and Love, "Geometric approaches to solving the traveling
+/// salesman problem" (1977), with cheapest insertion.
 std::vector<int> shortSequence(const Points& points);
 
 /// The stop that an answer names; nothing for a number outside 1 to `stopCount`. Overflow beyond the double

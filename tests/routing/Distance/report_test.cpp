@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <random>
+
+#include "routing/Distance/method.h"
 #include "routing/Distance/report.h"
+#include "tests/routing/Distance/plain_calculator.h"
 
 namespace vantore::distance {
 namespace {
@@ -24,6 +29,48 @@ TEST(DistanceOverEarth, IsCutToTwoPlaces) {
 
 TEST(DistanceOverEarth, ReadsTheTotalUpToItsComma) {
     EXPECT_EQ(shownOverEarth(803.47, "3,281.21").total, "806.47");
+}
+
+Problem randomProblem(std::mt19937& random, CoordinateType type) {
+    const auto within = [&](double most) {
+        return std::uniform_real_distribution<double>(-most, most)(random);
+    };
+    const bool earth = type == CoordinateType::LatitudeLongitude;
+    const double size = earth ? 1 : std::pow(10, 1 + random() % 6);
+    return {.type = type,
+            .dimension = random() % 2 == 0 ? Dimension::Miles : Dimension::Kilometers,
+            .origin = {within(80) * size, within(85) * size},
+            .destination = {within(80) * size, within(85) * size},
+            .circuityFactor = 1 + random() % 50 / 100.0,
+            .mapFactor = earth ? 1 : within(10)};
+}
+
+/// The texts of the boxes after a row of calculations of one type.
+void expectAsPlain(CoordinateType type, unsigned seed) {
+    std::mt19937 random(seed);
+    tests::PlainCalculator plain;
+    double total = 0;
+    Shown shown;
+    for (int i = 0; i < 10; ++i) {
+        const Problem problem = randomProblem(random, type);
+        plain.calculate(problem);
+        if (type == CoordinateType::LinearGrid) {
+            total += linearDistance(problem);
+            shown = shownOnGrid(linearDistance(problem), total);
+        } else {
+            shown = shownOverEarth(*earthDistance(problem, [](const std::string&) {}), shown.total);
+        }
+        ASSERT_EQ(shown.distance, plain.distanceBox) << seed << ", " << i;
+        ASSERT_EQ(shown.total, plain.totalBox) << seed << ", " << i;
+    }
+}
+
+TEST(DistanceBesideAPlainProcedure, ShowsTheSameInTwoThousandCalculations) {
+    for (unsigned seed = 1; seed <= 100; ++seed) {
+        expectAsPlain(CoordinateType::LinearGrid, seed);
+        expectAsPlain(CoordinateType::LatitudeLongitude, seed);
+        if (testing::Test::HasFatalFailure()) return;
+    }
 }
 
 } // namespace
