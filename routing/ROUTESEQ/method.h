@@ -22,9 +22,4 @@ std::optional<int> specifiedStop(std::string_view answer, int stopCount);
 /// The stops' numbers with a blank in front of each.
 std::string sequenceText(const std::vector<int>& stops);
 
-/// The length of the route from the depot through the stops of a sequence text and back, in the coordinates
-/// as typed, times both factors. SubscriptOutOfRange for a stop that the table hasn't, Overflow beyond the
-/// double range.
-double routeDistance(const StopSequencingProblem& problem, std::string_view sequence);
-
 } // namespace vantore::routeseq

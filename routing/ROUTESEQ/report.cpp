@@ -1,8 +1,44 @@
 #include "routing/ROUTESEQ/report.h"
 
+#include <cmath>
+
+#include "routing/ROUTESEQ/points.h"
+#include "routing/destring.h"
+#include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
 
 namespace vantore::routeseq {
+
+namespace {
+
+/// Number 0 is the depot.
+Point placeOf(const StopSequencingProblem& problem, double number) {
+    if (number == 0) return {problem.depotX, problem.depotY};
+    const int stop = toInt32(number);
+    checkIndex(stop, 1, problem.stopCount);
+    return {problem.stops(stop).x, problem.stops(stop).y};
+}
+
+double straightLine(const Point& a, const Point& b) {
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    return std::sqrt(finite(dx * dx + dy * dy));
+}
+
+} // namespace
+
+double routeDistance(const StopSequencingProblem& problem, std::string_view sequence) {
+    const Point depot = placeOf(problem, 0);
+    Point at = depot;
+    double distance = 0;
+    const CountedTable<double> numbers = routing::destring(sequence);
+    for (const double number : numbers.span()) {
+        const Point next = placeOf(problem, number);
+        distance += straightLine(at, next);
+        at = next;
+    }
+    return problem.onTheRoad(distance + straightLine(at, depot));
+}
 
 std::vector<ReportLine> reportLines(const MeasuredSequence& sequence, Scale scale) {
     const Font font = {"Arial", 10 * scale.x, false};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "routing/ROUTESEQ/problem.h"
@@ -8,6 +9,11 @@
 #include "shell/forms/report_screen.h"
 
 namespace vantore::routeseq {
+
+/// The length of the route from the depot through the stops of a sequence text and back, in the coordinates
+/// as typed, times both factors. SubscriptOutOfRange for a stop that the table hasn't, Overflow beyond the
+/// double range.
+double routeDistance(const StopSequencingProblem& problem, std::string_view sequence);
 
 /// A sequence and the length of its route.
 struct MeasuredSequence {

@@ -148,30 +148,5 @@ TEST(SequenceText, HasABlankInFrontOfEachNumber) {
     EXPECT_EQ(sequenceText({}), "");
 }
 
-TEST(RouteDistance, RunsFromTheDepotThroughTheStopsAndBack) {
-    StopSequencingProblem problem = stopsAt({0, 0}, {{3, 4}, {3, 0}, {-5, 12}});
-    EXPECT_EQ(routeDistance(problem, " 1"), 10);
-    EXPECT_EQ(routeDistance(problem, " 1 2"), 5 + 4 + 3);
-    EXPECT_EQ(routeDistance(problem, " 2 1"), 5 + 4 + 3);
-    EXPECT_DOUBLE_EQ(routeDistance(problem, " 3 1 2"), 13 + std::sqrt(128) + 4 + 3);
-    EXPECT_EQ(routeDistance(problem, ""), 0);
-    problem.circuityFactor = 1.5;
-    problem.mapFactor = 10;
-    EXPECT_EQ(routeDistance(problem, " 1"), 150);
-    problem.circuityFactor = 0;
-    EXPECT_EQ(routeDistance(problem, " 1"), 100);
-    problem.mapFactor = 0;
-    EXPECT_EQ(routeDistance(problem, " 1"), 10);
-}
-
-TEST(RouteDistance, UsesTheCoordinatesAsTyped) {
-    EXPECT_EQ(routeDistance(stopsAt({0, 0}, {{.1, 0}}), " 1"), .2);
-    EXPECT_EQ(errorOf([] { routeDistance(stopsAt({0, 0}, {{1E200, 0}}), " 1"); }), ErrorNumber::Overflow);
-    EXPECT_EQ(errorOf([] {
-                  routeDistance(stopsAt({0, 0}, {{1, 0}}), " 501");
-              }),
-              ErrorNumber::SubscriptOutOfRange);
-}
-
 } // namespace
 } // namespace vantore::routeseq

@@ -1,13 +1,45 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
 #include "routing/ROUTESEQ/report.h"
 #include "tests/routing/ROUTESEQ/stops.h"
+#include "tests/support/error_of.h"
 
 namespace vantore::routeseq {
 namespace {
+
+using vantore::tests::errorOf;
+
+TEST(RouteDistance, RunsFromTheDepotThroughTheStopsAndBack) {
+    StopSequencingProblem problem = tests::stopsAt({0, 0}, {{3, 4}, {3, 0}, {-5, 12}});
+    EXPECT_EQ(routeDistance(problem, " 1"), 10);
+    EXPECT_EQ(routeDistance(problem, " 1 2"), 5 + 4 + 3);
+    EXPECT_EQ(routeDistance(problem, " 2 1"), 5 + 4 + 3);
+    EXPECT_DOUBLE_EQ(routeDistance(problem, " 3 1 2"), 13 + std::sqrt(128) + 4 + 3);
+    EXPECT_EQ(routeDistance(problem, ""), 0);
+    problem.circuityFactor = 1.5;
+    problem.mapFactor = 10;
+    EXPECT_EQ(routeDistance(problem, " 1"), 150);
+    problem.circuityFactor = 0;
+    EXPECT_EQ(routeDistance(problem, " 1"), 100);
+    problem.mapFactor = 0;
+    EXPECT_EQ(routeDistance(problem, " 1"), 10);
+}
+
+TEST(RouteDistance, UsesTheCoordinatesAsTyped) {
+    EXPECT_EQ(routeDistance(tests::stopsAt({0, 0}, {{.1, 0}}), " 1"), .2);
+    EXPECT_EQ(errorOf([] {
+                  routeDistance(tests::stopsAt({0, 0}, {{1E200, 0}}), " 1");
+              }),
+              ErrorNumber::Overflow);
+    EXPECT_EQ(errorOf([] {
+                  routeDistance(tests::stopsAt({0, 0}, {{1, 0}}), " 501");
+              }),
+              ErrorNumber::SubscriptOutOfRange);
+}
 
 TEST(StopSequenceReport, ShowsTheSequenceAndItsDistance) {
     const std::vector<ReportLine> lines = reportLines({" 3 1 2", 1945.2464}, {1.5, 1});
