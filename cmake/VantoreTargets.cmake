@@ -36,4 +36,6 @@ function(vantore_module name)
     list(TRANSFORM ARG_WINDOW REPLACE "(.+)" "${name}/\\1.cpp")
     vantore_library(${name}_core SOURCES ${ARG_CORE} LINKS vantore_base)
     vantore_library(${name} SOURCES ${ARG_WINDOW} LINKS ${name}_core vantore_frame ${ARG_LINKS})
+    # GCC 12 takes the empty texts of a module's wording for uninitialised where it optimises.
+    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endfunction()

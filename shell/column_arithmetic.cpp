@@ -19,9 +19,10 @@ std::optional<Action> actionFor(const std::string& answer) {
 }
 
 bool mayCompute(Suite& suite, const DataGrid& grid, const ArithmeticWording& wording) {
-    if (wording.highlighted) return suite.asksYes(wording.highlighted->text, wording.highlighted->title);
     const CellBlock& block = grid.selection();
-    if (block.startCol != block.endCol) {
+    if (wording.highlighted) {
+        if (!suite.asksYes(wording.highlighted->text, wording.highlighted->title)) return false;
+    } else if (block.startCol != block.endCol) {
         suite.messageBx(wording.oneColumn.text, wording.oneColumn.title);
         return false;
     }

@@ -319,7 +319,7 @@ std::optional<std::string> ModuleFrame::chooseSaveName() {
         if (!path) return std::nullopt;
         const std::string bareName = upperCase(trimmed(textOf(pathOf(*path).filename())));
         if (!bareName.starts_with(wording_.filePrefix)) {
-            message("Use the prefix " + wording_.filePrefix + " on the file name.");
+            message("Use the prefix " + wording_.filePrefix + " on the file name.", wording_.prefixTitle);
         } else if (mayBeSavedAs(bareName)) {
             return trimmedRight(*path);
         }

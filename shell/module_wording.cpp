@@ -13,6 +13,7 @@ constexpr const char* usualPrintQuestion = "Select YES to print.  Alternately, c
 ModuleWording ModuleWording::completed() const {
     ModuleWording all = *this;
     std::string* const titles[] = {&all.windowTitle,
+                                   &all.prefixTitle,
                                    &all.exitTitle,
                                    &all.rows.question,
                                    &all.rows.noRow,

@@ -29,9 +29,10 @@ struct ModuleWording {
     std::string openTitle = {};
     std::string saveTitle = {};
     std::string filter = {};
-    std::string saveFilter = {}; ///< empty where it is the same as `filter`
-    std::string exitTitle = {};  ///< of the question "Save data?"
-    RowTitles rows = {};         ///< of every grid that brings no titles of its own
+    std::string saveFilter = {};  ///< empty where it is the same as `filter`
+    std::string prefixTitle = {}; ///< of "Use the prefix COG on the file name."
+    std::string exitTitle = {};   ///< of the question "Save data?"
+    RowTitles rows = {};          ///< of every grid that brings no titles of its own
     ArithmeticWording arithmetic = {};
     PrintQuestion printQuestion = {};
     std::string printFailure = {}; ///< told in place of a run-time error when a plot can't be printed

@@ -25,13 +25,17 @@ PrintJob reportJob(const std::string& title, const std::vector<std::string>& lin
     return job;
 }
 
-PrintJob dataJob(const std::string& title, const std::string& heading, const PrintLines& page) {
+PrintJob dataJob(const std::string& title, const std::vector<std::string>& headings, const PrintLines& page) {
     PrintJob job{.title = title};
     job.print("", dataFont);
-    job.print(heading, dataTitleFont);
+    for (const std::string& heading : headings) job.print(heading, dataTitleFont);
     job.print("", dataFont);
     printOn(job, page);
     return job;
+}
+
+PrintJob dataJob(const std::string& title, const std::string& heading, const PrintLines& page) {
+    return dataJob(title, std::vector<std::string>{heading}, page);
 }
 
 PrintJob plainJob(const std::string& title, const PrintLines& page) {

@@ -13,8 +13,9 @@ namespace vantore {
 /// A report: "Arial" 12 for the first line, "Courier New" 10 for the rest.
 PrintJob reportJob(const std::string& title, const std::vector<std::string>& lines);
 
-/// A print of input data: a blank line, the heading in "Arial" 14, a blank line, the page in "Courier
+/// A print of input data: a blank line, the headings in "Arial" 14, a blank line, the page in "Courier
 /// New" 12.
+PrintJob dataJob(const std::string& title, const std::vector<std::string>& headings, const PrintLines& page);
 PrintJob dataJob(const std::string& title, const std::string& heading, const PrintLines& page);
 
 /// A print of input data that begins with its page, all in "Courier New" 12.

@@ -10,6 +10,9 @@
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
 #include "simulator/SCSIM/SCSim.h"
+#include "routing/Distance/Distance.h"
+#include "routing/ROUTE/ROUTE.h"
+#include "routing/ROUTESEQ/ROUTESEQ.h"
 
 namespace vantore {
 
@@ -32,6 +35,9 @@ std::vector<ModuleEntry> moduleList() {
         entry<miprog::MIPROG>("MIPROG"),
         entry<mulreg::MULREG>("MULREG"),
         entry<scsim::SCSim>("SCSIM"),
+        entry<distance::Distance>("MILES"),
+        entry<route::ROUTE>("ROUTE"),
+        entry<routeseq::ROUTESEQ>("ROUTESEQ"),
     };
 }
 

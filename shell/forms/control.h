@@ -184,6 +184,8 @@ class TextBox : public Control {
     std::function<void()> onChange;
     std::function<void()> onLeave; ///< The focus moves away.
 
+    bool selectsOnFocus = false; ///< All its text is marked when it gets the focus.
+
     /// The cell whose text the box shows, where it shows one: what a user types goes into the cell.
     std::optional<CellReference> cell;
 
