@@ -3,7 +3,7 @@
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-charts-dev
     libqt6opengl6-dev fonts-liberation coinor-libcbc-dev zlib1g-dev"
 test_packages="python3 libgtest-dev libbenchmark-dev liblemon-dev coinor-libclp-dev clang libclang-rt-dev clang-format
-    xvfb xauth xdotool imagemagick poppler-utils procps"
+    xvfb xauth xdotool x11-utils openbox imagemagick poppler-utils procps"
 
 # Installs those of the named packages that are missing, and says so.
 install_missing() {

@@ -78,7 +78,8 @@ void OptionView::syncContent(const FormLayout& layout) {
 }
 
 CheckBoxView::CheckBoxView(ViewContext& context, CheckBox& box, QWidget* parent)
-    : PressedView(context, box, new Pressable<QCheckBox>(parent), markWidth(*parent, QStyle::PM_IndicatorWidth)),
+    : PressedView(context, box, new Pressable<QCheckBox>(parent),
+                  markWidth(*parent, QStyle::PM_IndicatorWidth)),
       box_(box) {}
 
 void CheckBoxView::syncContent(const FormLayout& layout) {

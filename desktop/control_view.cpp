@@ -115,10 +115,18 @@ const FittedText& ControlView::fitted(const QString& text, QSize room, int flags
 std::unique_ptr<ControlView> makeView(ViewContext& context, Control& control, QWidget* parent) {
     using Maker = std::unique_ptr<ControlView> (*)(ViewContext&, Control&, QWidget*);
     constexpr std::array<Maker, 12> makers = {
-        viewIf<Button, ButtonView>,         viewIf<TextBox, TextBoxView>, viewIf<Label, LabelView>,
-        viewIf<DataGrid, GridControlView>,  viewIf<Option, OptionView>,   viewIf<CheckBox, CheckBoxView>,
-        containerView,                      viewIf<ListBox, ListView>,    viewIf<ReportScreen, ReportView>,
-        viewIf<PictureSurface, DrawingView>, viewIf<Chart, DrawingView>,  viewIf<Picture, PictureView>,
+        viewIf<Button, ButtonView>,
+        viewIf<TextBox, TextBoxView>,
+        viewIf<Label, LabelView>,
+        viewIf<DataGrid, GridControlView>,
+        viewIf<Option, OptionView>,
+        viewIf<CheckBox, CheckBoxView>,
+        containerView,
+        viewIf<ListBox, ListView>,
+        viewIf<ReportScreen, ReportView>,
+        viewIf<PictureSurface, DrawingView>,
+        viewIf<Chart, DrawingView>,
+        viewIf<Picture, PictureView>,
     };
     for (const Maker make : makers)
         if (auto view = make(context, control, parent)) return view;

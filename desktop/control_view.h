@@ -56,7 +56,8 @@ class ControlView {
     /// The control's font as its design says.
     QFont font(const FormLayout& layout) const;
 
-    /// `text` in the control's font, smaller or cut where it doesn't fit `room`. The tip shows a cut one whole.
+    /// `text` in the control's font, smaller or cut where it doesn't fit `room`. The tip shows a cut one
+    /// whole.
     const FittedText& fitted(const QString& text, QSize room, int flags, const FormLayout& layout);
 
   private:

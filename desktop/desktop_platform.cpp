@@ -12,14 +12,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawing/drawing_export.h"
 #include "desktop/dialog_place.h"
 #include "desktop/dialog_window.h"
 #include "desktop/file_dialogs.h"
-#include "drawing/fonts.h"
 #include "desktop/print_preview.h"
 #include "desktop/printing.h"
 #include "desktop/programs.h"
+#include "drawing/drawing_export.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

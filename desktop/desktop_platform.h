@@ -8,7 +8,12 @@
 namespace vantore {
 
 /// The outside world on a desktop: windows, printers, the clipboard, programs, the screen and its settings.
-class DesktopPlatform : public Dialogs, public Printer, public Clipboard, public Programs, public Display, public Settings {
+class DesktopPlatform : public Dialogs,
+                        public Printer,
+                        public Clipboard,
+                        public Programs,
+                        public Display,
+                        public Settings {
   public:
     DesktopPlatform(OpenWindows& windows, WindowSteps& steps) : windows_(windows), steps_(steps) {}
 

@@ -71,7 +71,9 @@ void DesktopSession::settle() {
         if (!form->closed && window == nullptr) showOver(*form);
         closed = closed || form->closed;
     }
-    if (closed) QMetaObject::invokeMethod(this, [this] { unloadClosed(); }, Qt::QueuedConnection);
+    if (closed)
+        QMetaObject::invokeMethod(
+            this, [this] { unloadClosed(); }, Qt::QueuedConnection);
 }
 
 void DesktopSession::unloadClosed() {

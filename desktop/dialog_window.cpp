@@ -19,10 +19,10 @@ namespace vantore {
 
 namespace {
 
-constexpr double inset = 150;            // twips
-constexpr int reasonableLine = 40;       // characters
-constexpr double largestShare = .6;      // of the screen, for the prompt
-constexpr int endlessLine = 1 << 24;     // pixels
+constexpr double inset = 150;        // twips
+constexpr int reasonableLine = 40;   // characters
+constexpr double largestShare = .6;  // of the screen, for the prompt
+constexpr int endlessLine = 1 << 24; // pixels
 
 /// Width of a text in lines of a reasonable length, no less than told.
 int promptWidth(const QString& text, const QFont& font, int told) {
@@ -34,7 +34,8 @@ int promptWidth(const QString& text, const QFont& font, int told) {
 } // namespace
 
 DialogWindow::DialogWindow(DialogForm& form, WindowSteps& steps, QWidget* parent, double zoom)
-    : QDialog(parent), form_(form), steps_(steps), zoom_(zoom), prompt_(*new QLabel(this)) {
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      form_(form), steps_(steps), zoom_(zoom), prompt_(*new QLabel(this)) {
     setObjectName(qtText(form.name()));
     setWindowTitle(qtText(form.caption));
     for (const auto& control : form.controls()) {
@@ -61,7 +62,8 @@ void DialogWindow::showPrompt(const Label& prompt) {
     const int told = pixels(prompt.design.width);
     int width = promptWidth(qtText(prompt.caption), font, told);
     QString text = breakable(qtText(prompt.caption), font, width);
-    while (width < screen.width() && fittedText(text, font, QSize(width, screen.height()), Qt::TextWordWrap).cut)
+    while (width < screen.width() &&
+           fittedText(text, font, QSize(width, screen.height()), Qt::TextWordWrap).cut)
         text = breakable(qtText(prompt.caption), font, width = std::min(width * 5 / 4, screen.width()));
     widened_ = width > told;
     const FittedText shown = fittedText(text, font, QSize(width, screen.height()), Qt::TextWordWrap);
@@ -119,7 +121,8 @@ void DialogWindow::layOut() {
 }
 
 QPoint DialogWindow::toldMiddle() const {
-    return QPointF((form_.left + form_.width / 2) / twipsPerPixel, (form_.top + form_.height / 2) / twipsPerPixel)
+    return QPointF((form_.left + form_.width / 2) / twipsPerPixel,
+                   (form_.top + form_.height / 2) / twipsPerPixel)
         .toPoint();
 }
 

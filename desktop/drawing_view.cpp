@@ -14,8 +14,8 @@ namespace vantore {
 
 namespace {
 
-constexpr int wheelNotch = 120;    // eighths of a degree
-constexpr double panStep = 25;     // pixels of the design
+constexpr int wheelNotch = 120; // eighths of a degree
+constexpr double panStep = 25;  // pixels of the design
 const QColor edgeColour(0xB4, 0xBA, 0xC0);
 
 /// The paper on the screen. A painted picture is kept until the drawing or the size changes, so that a

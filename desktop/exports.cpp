@@ -17,9 +17,7 @@ constexpr double copiedPixelsPerUnit = 2;
 
 std::optional<std::string> fileToSave(const AskingPlace& place, const char* title, const char* filter,
                                       const std::string& name) {
-    return chooseFile(
-        place.window,
-        {FileDialog::Kind::Save, title, place.folder, filter, name});
+    return chooseFile(place.window, {FileDialog::Kind::Save, title, place.folder, filter, name});
 }
 
 /// A report's fonts are the screen's; on paper the design's own sizes stand.

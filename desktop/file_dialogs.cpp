@@ -101,7 +101,8 @@ std::optional<std::string> chooseFile(QWidget* parent, const FileDialog& dialog,
     box.setDirectory(dialog.folder.empty() ? QDir::currentPath() : qtText(dialog.folder));
     box.setNameFilters(nameFilters(dialog.filter) << "All files (*)");
     if (!dialog.name.empty()) box.selectFile(qtText(dialog.name));
-    if (overwriting == Overwriting::ProposedUnasked) box.unasked = box.directory().absoluteFilePath(qtText(dialog.name));
+    if (overwriting == Overwriting::ProposedUnasked)
+        box.unasked = box.directory().absoluteFilePath(qtText(dialog.name));
     box.nameBox()->setFocus();
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
     return utf8Text(box.selectedFiles().first());

@@ -19,8 +19,8 @@ QStringList nameFilters(std::string_view filter);
 /// without, else the name with the ending.
 std::string pathForName(const std::string& path, const std::string& ending);
 
-/// Whether Save asks before it takes a file that is there: always, or not for the name that was proposed, which
-/// is the open problem's own.
+/// Whether Save asks before it takes a file that is there: always, or not for the name that was proposed,
+/// which is the open problem's own.
 enum class Overwriting { Asked, ProposedUnasked };
 
 /// Asks for a file. Open takes a name that doesn't exist yet.

@@ -43,8 +43,9 @@ FittedText fittedText(const QString& text, const QFont& font, QSizeF room, int f
             continue;
         }
         const bool oneLine = (flags & Qt::TextWordWrap) == 0 && !text.contains('\n');
-        result.text = oneLine ? QFontMetricsF(result.font).elidedText(text, Qt::ElideRight, room.width(), flags)
-                              : cutBlock(text, result.font, room, flags);
+        result.text = oneLine
+                          ? QFontMetricsF(result.font).elidedText(text, Qt::ElideRight, room.width(), flags)
+                          : cutBlock(text, result.font, room, flags);
         result.cut = result.text != text;
         break;
     }

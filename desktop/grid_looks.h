@@ -35,7 +35,8 @@ class CellDelegate : public QStyledItemDelegate {
   public:
     CellDelegate(const DataGrid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 

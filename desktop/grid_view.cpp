@@ -56,7 +56,8 @@ NumberMarks usersMarks() {
 
 GridView::GridView(QWidget* parent, ViewContext& context, DataGrid& grid)
     : QTableView(parent), context_(context), grid_(grid), model_(*new GridModel(grid, this)),
-      columns_(*new Heading(Qt::Horizontal, grid, this)), rowNumbers_(*new Heading(Qt::Vertical, grid, this)) {
+      columns_(*new Heading(Qt::Horizontal, grid, this)),
+      rowNumbers_(*new Heading(Qt::Vertical, grid, this)) {
     setModel(&model_);
     setItemDelegate(new CellDelegate(grid, this));
     setPalette(gridPalette());
@@ -134,8 +135,8 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-// The highlight. In the grid the current cell is the one from which the highlight was extended, in the toolkit
-// the one to which.
+// The highlight. In the grid the current cell is the one from which the highlight was extended, in the
+// toolkit the one to which.
 
 void GridView::highlight(const CellBlock& block) {
     act([&] { context_.form().select(grid_, block); });

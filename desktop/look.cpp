@@ -7,8 +7,8 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "drawing/fonts.h"
 #include "desktop/picture_view.h"
+#include "drawing/fonts.h"
 
 namespace vantore {
 

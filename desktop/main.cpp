@@ -2,8 +2,8 @@
 #include <QFileInfo>
 
 #include "desktop/desktop_session.h"
-#include "drawing/fonts.h"
 #include "desktop/look.h"
+#include "drawing/fonts.h"
 #include "suite/module_list.h"
 
 namespace {

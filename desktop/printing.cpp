@@ -136,7 +136,8 @@ class PagePainter {
     }
 
     void paint(const Drawing& drawing) {
-        const double zoom = drawing.size().scaled(room_, Qt::KeepAspectRatio).width() / drawing.size().width();
+        const double zoom =
+            drawing.size().scaled(room_, Qt::KeepAspectRatio).width() / drawing.size().width();
         painter_.save();
         painter_.scale(zoom, zoom);
         drawing.paint(painter_);

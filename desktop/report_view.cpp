@@ -68,12 +68,10 @@ void ReportBox::contextMenuEvent(QContextMenuEvent* event) {
     menu.addAction("Select &all", this, [this] { selectAll(); })->setShortcut(QKeySequence::SelectAll);
     menu.addSeparator();
     const AskingPlace asking{window(), context_.outputFolder()};
-    menu.addAction("&Save as text...", this, [this, asking] {
-        context_.act([&] { saveReportAs(asking, context_.form(), report_); });
-    });
-    menu.addAction("&Print...", this, [this, asking] {
-        context_.act([&] { printReport(asking, context_.form(), report_); });
-    });
+    menu.addAction("&Save as text...", this,
+                   [this, asking] { context_.act([&] { saveReportAs(asking, context_.form(), report_); }); });
+    menu.addAction("&Print...", this,
+                   [this, asking] { context_.act([&] { printReport(asking, context_.form(), report_); }); });
     menu.exec(event->globalPos());
 }
 

@@ -29,11 +29,11 @@ constexpr double barShare = .7; // of the distance between two bars
 constexpr int chartMargin = 8;  // pixels
 constexpr int mostTicks = 10;
 constexpr int leastTicks = 2;
-constexpr double besideAxis = 90; // pixels of titles, labels and legend along an axis
+constexpr double besideAxis = 90;     // pixels of titles, labels and legend along an axis
 constexpr double tickRoomAcross = 30; // pixels of a label under the axis
 constexpr double tickRoomUp = 24;     // pixels of a label beside it
-constexpr double pointsEdge = .03;  // of an axis, so that a point at its end is drawn whole
-constexpr double leastShare = 1E-6; // of a value: the length of an axis whose ends are equal
+constexpr double pointsEdge = .03;    // of an axis, so that a point at its end is drawn whole
+constexpr double leastShare = 1E-6;   // of a value: the length of an axis whose ends are equal
 
 QFont chartFont(double points, double scale, bool bold = false) {
     return qtFont({.family = "Arial", .size = points * scale, .bold = bold});
@@ -57,7 +57,8 @@ ChartAxis drawnAxis(const ChartAxis& axis, double edge) {
 
 /// As many ticks as have room for their labels: those without it are shown as dots.
 int mostTicksOn(double length, double room, double scale) {
-    return std::clamp(static_cast<int>((length - besideAxis * scale) / (room * scale)), leastTicks, mostTicks);
+    return std::clamp(static_cast<int>((length - besideAxis * scale) / (room * scale)), leastTicks,
+                      mostTicks);
 }
 
 struct AxisLook {
@@ -171,8 +172,8 @@ void paintChart(QPainter& painter, const ChartData& data, QSizeF size, double sc
     const bool points = std::ranges::any_of(
         data.series, [](const ChartSeries& series) { return series.kind == SeriesKind::Points; });
     const double edge = points ? pointsEdge : 0;
-    QValueAxis* x = addAxis(
-        chart, data.x, {Qt::AlignBottom, mostTicksOn(size.width(), tickRoomAcross, scale), scale, edge});
+    QValueAxis* x = addAxis(chart, data.x,
+                            {Qt::AlignBottom, mostTicksOn(size.width(), tickRoomAcross, scale), scale, edge});
     QValueAxis* y =
         addAxis(chart, data.y, {Qt::AlignLeft, mostTicksOn(size.height(), tickRoomUp, scale), scale, edge});
     addSeries(chart, data, x, y, scale);

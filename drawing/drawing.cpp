@@ -54,7 +54,8 @@ class OperationPainter {
 };
 
 QRectF placeOf(const Form& form, const Control& control) {
-    return {QPointF(control.design.left * form.scale().x, control.design.top * form.scale().y) / twipsPerPixel,
+    return {QPointF(control.design.left * form.scale().x, control.design.top * form.scale().y) /
+                twipsPerPixel,
             unitsOf(form, control)};
 }
 
@@ -135,7 +136,8 @@ void Drawing::add(const Form& form, const Control& control) {
         parts_.push_back({place, chart->data});
     } else if (const auto* label = dynamic_cast<const Label*>(&control)) {
         const Font font{.size = label->fontSize * form.scale().x, .bold = label->bold};
-        parts_.push_back({place, Text{qtText(label->caption), font, label->textColour, qtAlignment(label->alignment)}});
+        parts_.push_back(
+            {place, Text{qtText(label->caption), font, label->textColour, qtAlignment(label->alignment)}});
     }
 }
 
@@ -156,8 +158,8 @@ void Drawing::paintPart(QPainter& painter, const Part& part) const {
         return paintChart(painter, *chart, part.place.size(), textScale_);
     const auto& text = std::get<Text>(part.content);
     painter.setPen(qtColour(text.colour));
-    drawText(painter, QRectF(QPointF(0, 0), part.place.size()), Qt::TextWordWrap | static_cast<int>(text.alignment), text.text,
-             text.font);
+    drawText(painter, QRectF(QPointF(0, 0), part.place.size()),
+             Qt::TextWordWrap | static_cast<int>(text.alignment), text.text, text.font);
 }
 
 } // namespace vantore

@@ -54,8 +54,8 @@ QFont qtFont(const Font& font, double zoom) {
 }
 
 void drawText(QPainter& painter, const QRectF& room, int flags, const QString& text, const Font& font) {
-    // The font is asked for in the size that it has on the device: one of another size, scaled by the painter,
-    // would stay in the toolkit's cache and be taken for a font of the screen.
+    // The font is asked for in the size that it has on the device: one of another size, scaled by the
+    // painter, would stay in the toolkit's cache and be taken for a font of the screen.
     const double zoom = painter.worldTransform().m11();
     const double pixels = font.size * pixelsPerInch / pointsPerInch * zoom;
     painter.save();

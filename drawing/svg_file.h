@@ -7,7 +7,7 @@
 
 namespace vantore {
 
-/// A drawing as SVG, its view box in the drawing's units. 
+/// A drawing as SVG, its view box in the drawing's units.
 QByteArray svgOf(const Drawing& drawing, const QString& title);
 
 /// Writes a picture surface or chart of a form to a file, replaced whole. Works

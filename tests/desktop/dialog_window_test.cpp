@@ -32,7 +32,6 @@ struct OpenDialog {
     DialogWindow window{form, steps, nullptr, 1};
 };
 
-
 TEST(DialogWindow, EnterInTheTextBoxPressesOk) {
     InptBx dialog({}, "The add value is?", "COG", 8, "Enter a value");
     OpenDialog<InptBx> open(dialog);

@@ -41,8 +41,9 @@ TEST(FittedText, InSeveralLinesIsCutWhereTheRoomEnds) {
     const FittedText cut = fittedText(words, arial(), {100, 40}, Qt::TextWordWrap);
     EXPECT_TRUE(cut.cut);
     EXPECT_GT(cut.text.size(), 20);
-    EXPECT_LE(QFontMetricsF(cut.font).boundingRect(QRectF(0, 0, 100, 1000), Qt::TextWordWrap, cut.text).height(),
-              41);
+    EXPECT_LE(
+        QFontMetricsF(cut.font).boundingRect(QRectF(0, 0, 100, 1000), Qt::TextWordWrap, cut.text).height(),
+        41);
 }
 
 TEST(BreakableText, HasPlacesToBreakAtInWordsThatAreTooWide) {

@@ -205,7 +205,8 @@ TEST_F(GridViewTest, NumbersStandAtTheRight) {
     form.grid.setCell(1, 2, "2");
     const auto inkAt = [&](int col, bool right) {
         const QRect cell = view.cellRect(1, col).adjusted(3, 3, -3, -3);
-        const QRect half(right ? cell.center().x() : cell.left(), cell.top(), cell.width() / 2, cell.height());
+        const QRect half(right ? cell.center().x() : cell.left(), cell.top(), cell.width() / 2,
+                         cell.height());
         const QImage image = view.viewport()->grab(half).toImage();
         int dark = 0;
         for (int y = 0; y < image.height(); ++y)

@@ -38,8 +38,8 @@ inline PdfPage readPdf(const std::filesystem::path& file) {
     QProcess images;
     images.start("pdfimages", {"-list", QString::fromStdString(file.string())});
     images.waitForFinished();
-    return {askAboutPdf("pdftotext", {"-layout"}, file).toStdString(), askAboutPdf("pdftotext", {"-bbox"}, file),
-            images.readAllStandardOutput().count(" image ")};
+    return {askAboutPdf("pdftotext", {"-layout"}, file).toStdString(),
+            askAboutPdf("pdftotext", {"-bbox"}, file), images.readAllStandardOutput().count(" image ")};
 }
 
 /// The first page as a picture, a pixel a millimetre.
