@@ -1,9 +1,9 @@
 # Debian packages that Vantore is built, run and tested with. Sourced by ./run and ./test.
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-charts-dev
-    libqt6opengl6-dev fonts-liberation coinor-libcbc-dev zlib1g-dev"
-test_packages="python3 libgtest-dev libbenchmark-dev liblemon-dev coinor-libclp-dev clang libclang-rt-dev clang-format
-    xvfb xauth xdotool x11-utils openbox imagemagick poppler-utils procps"
+    libqt6opengl6-dev fonts-liberation coinor-libcbc-dev zlib1g-dev libgmp-dev"
+test_packages="python3 libgtest-dev libbenchmark-dev liblemon-dev coinor-libclp-dev coinor-cbc libglpk-dev
+    clang clang-format libclang-rt-dev xvfb xauth xdotool x11-utils openbox imagemagick poppler-utils procps"
 
 # Installs those of the named packages that are missing, and says so.
 install_missing() {
@@ -32,7 +32,7 @@ build_preset() {
     tests=$2
     shift 2
     log=$(mktemp)
-    cmake --preset "$preset" -DVANTORE_TESTS="$tests" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
+    cmake --preset "$preset" -DBUILD_TESTING="$tests" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
     rm -f "$log"
     cmake --build --preset "$preset" "$@"
 }

@@ -20,6 +20,8 @@
 #include "desktop/programs.h"
 #include "drawing/drawing_export.h"
 #include "drawing/fonts.h"
+#include "processes/child_process.h"
+#include "processes/folder_lock.h"
 
 namespace vantore {
 
@@ -119,7 +121,11 @@ void DesktopPlatform::setPicture(const CapturedPicture& picture) {
 std::unique_ptr<RunningProgram> DesktopPlatform::start(const std::filesystem::path& program,
                                                        const std::filesystem::path& folder,
                                                        const std::vector<Variable>& environment) {
-    return startProgram(program, folder, environment);
+    return startProcess(program, folder, environment);
+}
+
+std::unique_ptr<FolderLock> DesktopPlatform::lock(const std::filesystem::path& folder) {
+    return lockFolder(folder);
 }
 
 bool DesktopPlatform::startSpreadsheet() {

@@ -33,6 +33,7 @@ class DesktopPlatform : public Dialogs,
     std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
                                           const std::filesystem::path& folder,
                                           const std::vector<Variable>& environment) override;
+    std::unique_ptr<FolderLock> lock(const std::filesystem::path& folder) override;
     bool startSpreadsheet() override;
 
     Extent screen() const override;

@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "script/script_player.h"
+#include "shell/base/install_folder.h"
 #include "shell/base/text_file.h"
 #ifdef VANTORE_DESKTOP
 #include "drawing/svg_file.h"
@@ -60,8 +61,6 @@ bool takeOption(std::string_view option, std::string_view value, vantore::Script
 
 std::optional<Arguments> parse(std::span<char*> words) {
     Arguments arguments;
-    arguments.settings.installFolder =
-        vantore::textOf(std::filesystem::read_symlink("/proc/self/exe").parent_path());
     for (std::size_t i = 1; i < words.size(); ++i) {
         const std::string_view word = words[i];
         if (word == "--strict") {
@@ -74,6 +73,9 @@ std::optional<Arguments> parse(std::span<char*> words) {
         }
     }
     if (arguments.script.empty()) return std::nullopt;
+    if (arguments.settings.installFolder.empty())
+        arguments.settings.installFolder =
+            vantore::installFolder(std::filesystem::read_symlink("/proc/self/exe").parent_path());
     return arguments;
 }
 

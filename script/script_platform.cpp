@@ -5,7 +5,8 @@
 #include <cmath>
 #include <thread>
 
-#include "script/child_process.h"
+#include "processes/child_process.h"
+#include "processes/folder_lock.h"
 #include "script/transcript.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
@@ -112,6 +113,10 @@ std::unique_ptr<RunningProgram> ScriptPlatform::start(const std::filesystem::pat
     auto process = startProcess(program, folder, environment);
     out_ << "run " << textOf(program.filename()) << (process ? "" : " failed") << '\n';
     return process;
+}
+
+std::unique_ptr<FolderLock> ScriptPlatform::lock(const std::filesystem::path& folder) {
+    return lockFolder(folder);
 }
 
 bool ScriptPlatform::startSpreadsheet() {

@@ -57,6 +57,7 @@ class ScriptPlatform : public Dialogs,
     std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
                                           const std::filesystem::path& folder,
                                           const std::vector<Variable>& environment) override;
+    std::unique_ptr<FolderLock> lock(const std::filesystem::path& folder) override;
     bool startSpreadsheet() override;
 
     Extent screen() const override;

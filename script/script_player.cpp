@@ -187,8 +187,7 @@ void ScriptPlayer::openModule(ScriptLine& line) {
     const std::string name = line.word("module");
     line.end();
     if (suite_.windows.empty()) throw PlatformFailure("the program has ended");
-    if (suite_.windows.front() != launcher_)
-        throw PlatformFailure("a module is open already");
+    if (suite_.windows.front() != launcher_) throw PlatformFailure("a module is open already");
     Button* button = launcher_->moduleButton(name);
     if (button == nullptr) throw PlatformFailure("unknown module " + name);
     owner_ = launcher_;

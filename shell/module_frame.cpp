@@ -1,13 +1,13 @@
 #include "shell/module_frame.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "shell/capture.h"
 #include "shell/printing.h"
+#include "shell/report_file.h"
 
 namespace vantore {
 
@@ -24,12 +24,6 @@ constexpr double startLabelHeight = 600;
 constexpr double captionDrop = 30; // of a caption beside its box
 constexpr double captionGap = 60;
 
-std::string elapsedText(std::chrono::steady_clock::duration elapsed) {
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(elapsed).count();
-    const std::string rest = std::to_string(seconds % 60);
-    return std::to_string(seconds / 60) + (rest.size() < 2 ? ":0" : ":") + rest;
-}
-
 bool isOutcome(View view) {
     return view != View::Start && view != View::Data;
 }
@@ -41,7 +35,7 @@ std::string withoutPrefix(const std::string& boxName) {
 } // namespace
 
 ModuleFrame::ModuleFrame(Suite& suite, const ModuleWording& wording)
-    : SuiteWindow(suite, wording.name), wording_(wording.completed()) {
+    : SuiteWindow(suite, wording.name), solver(suite, *this), wording_(wording.completed()) {
     caption = wording_.windowTitle;
 }
 
@@ -57,7 +51,7 @@ Button& ModuleFrame::addButton(const std::string& name, const std::string& butto
     button.caption = buttonCaption;
     button.onPress = std::move(onPress);
     seenIn(button, views).when([this, &button] {
-        return solver_ == nullptr &&
+        return !solver.isRunning() &&
                std::find(offPaper_.begin(), offPaper_.end(), &button) == offPaper_.end();
     });
     return button;
@@ -356,7 +350,7 @@ void ModuleFrame::exitModule() {
 }
 
 void ModuleFrame::close() {
-    if (solver_) return interrupt();
+    if (solver.isRunning()) return interrupt();
     if (cmdExit != nullptr) run(*cmdExit, [this] { exitModule(); });
 }
 
@@ -381,7 +375,7 @@ void ModuleFrame::writeReportFile(const PrintLines& page, const std::string& nam
 }
 
 void ModuleFrame::showReportFile(const ReportStyle& style, const std::string& name) {
-    showReportLines(readLines(suite().ioPath(name)), style);
+    showReportLines(readReport(suite().ioPath(name)), style);
 }
 
 void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const ReportStyle& style) {
@@ -404,7 +398,7 @@ void ModuleFrame::showReportLines(const std::vector<std::string>& lines, const R
 }
 
 void ModuleFrame::printReport() {
-    printReportLines(readLines(suite().ioPath("OUTPUT.DAT")));
+    printReportLines(readReport(suite().ioPath("OUTPUT.DAT")));
 }
 
 void ModuleFrame::printReportLines(const std::vector<std::string>& lines) {
@@ -456,41 +450,8 @@ void ModuleFrame::printPlotImage() {
     if (suite().asksYes(question.text, question.title) == question.yesPrints) printWindow();
 }
 
-// Solvers
-
-/// What a window is like while a solver runs: the hourglass, no buttons. However the run ends, the window is
-/// as before, and no solver is left behind.
-class ModuleFrame::SolverRun {
-  public:
-    explicit SolverRun(ModuleFrame& frame) : frame_(frame), busy_(frame.suite()) {}
-    ~SolverRun() {
-        frame_.runningNote.clear();
-        frame_.solver_.reset();
-    }
-    SolverRun(const SolverRun&) = delete;
-    SolverRun& operator=(const SolverRun&) = delete;
-
-  private:
-    ModuleFrame& frame_;
-    Busy busy_;
-};
-
-bool ModuleFrame::runSolver(const std::string& program) {
-    const SolverRun run(*this);
-    solver_ = suite().platform.programs.start(suite().installPath(program), pathOf(suite().installFolder),
-                                              {{"VANTORE_IO", suite().ioFolder}});
-    if (!solver_) return false;
-    const auto started = std::chrono::steady_clock::now();
-    while (solver_->running()) {
-        runningNote = program + " is running, " + elapsedText(std::chrono::steady_clock::now() - started) +
-                      ".  Press Ctrl+C to stop it with the best solution so far.";
-        suite().platform.display.processEvents();
-    }
-    return true;
-}
-
 void ModuleFrame::interrupt() {
-    if (solver_) solver_->interrupt();
+    solver.interrupt();
 }
 
 } // namespace vantore

@@ -15,6 +15,7 @@
 #include "shell/grid_rows.h"
 #include "shell/module_wording.h"
 #include "shell/size_box.h"
+#include "shell/solver_run.h"
 #include "shell/suite_window.h"
 
 namespace vantore {
@@ -88,9 +89,8 @@ class ModuleFrame : public SuiteWindow {
     /// Prints the window as it stands, for a report that is a picture.
     void printWindowReport();
 
-    /// Starts a solver program of `installFolder`, without arguments, and waits for its end with all
-    /// buttons hidden. False when it could not be started.
-    bool runSolver(const std::string& program);
+    /// The runs of the module's solver program.
+    SolverRun solver;
 
     /// Writes a report to a file of `ioFolder`.
     void writeReportFile(const PrintLines& page, const std::string& name = "OUTPUT.DAT");
@@ -241,7 +241,6 @@ class ModuleFrame : public SuiteWindow {
     };
 
   private:
-    class SolverRun;
     class OnPaper;
 
     void printWindow();
@@ -260,7 +259,6 @@ class ModuleFrame : public SuiteWindow {
     std::vector<std::unique_ptr<SizeBox>> sizeBoxes_;
     std::vector<const Control*> offPaper_; ///< buttons that aren't printed
     std::unordered_map<const Control*, std::string> errorPlaces_;
-    std::unique_ptr<RunningProgram> solver_;
 };
 
 } // namespace vantore

@@ -70,14 +70,30 @@ class Clipboard {
     virtual void setPicture(const CapturedPicture& picture) = 0;
 };
 
+/// How a program ended.
+struct ProgramEnd {
+    int status = 0;        ///< its exit status
+    int signal = 0;        ///< the signal that ended it; 0 where it came to its own end
+    std::string lastError; ///< the last line that it wrote to standard error
+};
+
 /// A started program.
 class RunningProgram {
   public:
     virtual ~RunningProgram() = default;
     virtual bool running() = 0;
 
-    /// Asks the program to stop as Ctrl+C in a terminal does.
+    /// Asks the program to stop as Ctrl+C in a terminal does; ends it at once when it has been asked before.
     virtual void interrupt() = 0;
+
+    /// How it ended, once it is no longer running.
+    virtual const ProgramEnd& end() const = 0;
+};
+
+/// Keeps other solvers out of a folder for as long as it lives.
+class FolderLock {
+  public:
+    virtual ~FolderLock() = default;
 };
 
 class Programs {
@@ -93,6 +109,9 @@ class Programs {
     virtual std::unique_ptr<RunningProgram> start(const std::filesystem::path& program,
                                                   const std::filesystem::path& folder,
                                                   const std::vector<Variable>& environment) = 0;
+
+    /// Locks a folder for a solver's run; nothing when another solver is running there.
+    virtual std::unique_ptr<FolderLock> lock(const std::filesystem::path& folder) = 0;
 
     /// Starts the spreadsheet program with an empty document; false when there is none.
     virtual bool startSpreadsheet() = 0;

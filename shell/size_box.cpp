@@ -43,6 +43,13 @@ bool SizeBox::goesOn(const std::string& typed) const {
     return isOneCharacterMore(typed, seen_) || isOneCharacterMore(seen_, typed);
 }
 
+/// Where a size too small is told of, every text but the empty one is a size; elsewhere one without a digit
+/// is none.
+bool SizeBox::isSize(const std::string& typed) const {
+    if (rules_.onShort) return !typed.empty();
+    return typed.find_first_of("0123456789") != std::string::npos;
+}
+
 void SizeBox::putBack() {
     for (std::size_t i = 0; i < grids_.size(); ++i) grids_[i]->restore(before_.at(i));
 }
@@ -51,7 +58,7 @@ void SizeBox::follow() {
     const std::string typed = box_.text();
     if (!goesOn(typed)) forget();
     seen_ = typed;
-    if (typed.find_first_of("0123456789") == std::string::npos || (rules_.takes && !rules_.takes())) return;
+    if (!isSize(typed) || (rules_.takes && !rules_.takes())) return;
     if (before_.empty())
         for (const DataGrid* grid : grids_) before_.push_back(grid->content());
     putBack();

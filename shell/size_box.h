@@ -22,7 +22,7 @@ struct SizeRules {
 };
 
 /// A text box that tells and sets the size of one or several grids, which follow every change of its text;
-/// what is no size yet (an empty text, a lone sign) leaves them as they are.
+/// what is no size yet leaves them as they are.
 ///
 /// Typing a size passes through others, 25 over 18 through 2. Each is taken from the grids as they were
 /// before the typing, so that rows which the first digit cut off are there again with the second. A size out
@@ -45,6 +45,7 @@ class SizeBox {
   private:
     void follow();
     bool goesOn(const std::string& typed) const;
+    bool isSize(const std::string& typed) const;
     void putBack();
 
     TextBox& box_;

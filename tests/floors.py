@@ -20,8 +20,9 @@ BELOW = {
     **{subsystem: SHELL for subsystem in SUBSYSTEMS},
     "suite": SHELL + SUBSYSTEMS,
     "drawing": ["shell/forms", "shell/base"],
-    "script": SHELL + ["suite", "drawing"],
-    "desktop": SHELL + ["suite", "drawing"],
+    "processes": SHELL,
+    "script": SHELL + ["processes", "suite", "drawing"],
+    "desktop": SHELL + ["processes", "suite", "drawing"],
     "solvers": ["shell/base"] + SUBSYSTEMS,
 }
 WITH_TOOLKIT = ("desktop", "drawing")

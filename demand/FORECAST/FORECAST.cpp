@@ -93,6 +93,8 @@ void FORECAST::addButtons() {
                          [this] { plot(); });
     addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
     addPrintPlot();
+    Seen(*cmdPrintReport).when([this] { return forecast_.has_value(); });
+    Seen(*cmdPlot).when([this] { return view() == View::Data || forecast_.has_value(); });
 }
 
 void FORECAST::checkSearchAnswer(const TextBox& box) {

@@ -226,8 +226,11 @@ class GroupSearch {
         if (outcome_.trouble[lane] != 0) {
             Series own = series_;
             squared = fit(own, setting_, inUse(grid_.at(combination))).squared;
+            ++best_.redone;
         }
-        if (squared < best_.squared) best_ = {grid_.at(combination), squared};
+        if (squared >= best_.squared) return;
+        best_.hundredths = grid_.at(combination);
+        best_.squared = squared;
     }
 
     const Series& series_;

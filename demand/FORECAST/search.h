@@ -34,6 +34,7 @@ class ConstantGrid {
 struct Best {
     Hundredths hundredths{};
     double squared = 1E+38; ///< where the comparison starts
+    int redone = 0;         ///< combinations that were fitted again alone, for a value that wasn't finite
 };
 
 /// The first of the combinations with the least SSE below 1E+38; all constants 0 when none is below.

@@ -9,6 +9,7 @@
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "shell/forms/keys.h"
+#include "shell/report_file.h"
 
 namespace vantore::miprog {
 
@@ -263,16 +264,19 @@ void MIPROG::fillBlankCells() {
 void MIPROG::solve() {
     const std::optional<SolverInput> input = solverInput(readControls());
     if (!input) return message("Error in variable type.  Check input data.");
-    writeLines(suite().ioPath("TEMP.DAT"), temporaryLines(*input));
+    const SolverJob job{solverProgram,
+                        [&] { writeLines(suite().ioPath("TEMP.DAT"), temporaryLines(*input)); },
+                        {solverReport}};
+    if (!solver.writeInput(job)) return;
     if (!suite().asksYes(question, wording().name)) return;
-    runSolver(solverProgram);
-    std::vector<std::string> lines = readLines(suite().ioPath(solverReport));
+    if (!solver.run(job)) return;
+    std::vector<std::string> lines = readReport(suite().ioPath(solverReport));
     lines.insert(lines.begin(), resultsTitle);
     showReportLines(lines);
 }
 
 void MIPROG::printReport() {
-    std::vector<std::string> lines = readLines(suite().ioPath(solverReport));
+    std::vector<std::string> lines = readReport(suite().ioPath(solverReport));
     lines.insert(lines.begin(), resultsTitle);
     printReportLines(lines);
 }

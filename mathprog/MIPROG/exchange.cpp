@@ -30,6 +30,17 @@ std::string joinedByCommas(const Table& table, TextOf textOf) {
     return line;
 }
 
+/// A name in single quotes. An apostrophe before a comma would end it: there it is a typographic one.
+std::string quotedName(const std::string& name) {
+    std::string text = "'";
+    for (std::size_t at = 0; at < name.size(); ++at) {
+        const std::size_t next = name.find_first_not_of(' ', at + 1);
+        const bool ends = name[at] == '\'' && next != std::string::npos && name[next] == ',';
+        ends ? text.append("\u2019") : text.append(1, name[at]);
+    }
+    return text + "'";
+}
+
 std::string coefficientLine(const SolverInput& input, int i) {
     std::string line;
     for (int j = 1; j <= input.n; ++j) line.append(j == 1 ? "" : ",").append(defaultText(input.coef(i, j)));
@@ -46,7 +57,7 @@ std::optional<SolverInput> solverInput(const Problem& problem) {
     for (int j = 1; j <= problem.n; ++j) {
         const bool binary = problem.type(j) == binaryType;
         if (binary || problem.type(j) == integerType) input.intIndex.add(j);
-        input.names.add(withoutFirst(problem.columnLabel(j), 1));
+        input.names.add(withoutFirst(trimmed(problem.columnLabel(j)), 1));
         input.objCoef.add(problem.objCoef(j));
         input.bounds.add({0, binary ? 1 : noBound});
     }
@@ -66,7 +77,7 @@ std::vector<std::string> temporaryLines(const SolverInput& input) {
     std::vector<std::string> lines = {whole(input.objectiveFlag)};
     lines.push_back(whole(input.m) + "," + whole(input.n) + "," + whole(input.lessCount) + "," +
                     whole(input.equalCount) + "," + whole(input.greaterCount));
-    lines.push_back(joinedByCommas(input.names, [](const std::string& name) { return "'" + name + "'"; }));
+    lines.push_back(joinedByCommas(input.names, quotedName));
     for (int i = 1; i <= input.m; ++i) lines.push_back(coefficientLine(input, i));
     lines.push_back(joinedByCommas(input.rhs, defaultText));
     lines.push_back(joinedByCommas(input.rowSense, whole));

@@ -105,7 +105,8 @@ void Form::redo() {
 }
 
 void Form::putBack(const History::Target& target) {
-    for (std::size_t i = 0; i < controls_.size(); ++i) controls_[i]->restore(target.state[i]);
+    for (std::size_t i = 0; i < controls_.size(); ++i)
+        if (!std::holds_alternative<std::monostate>(target.state[i])) controls_[i]->restore(target.state[i]);
     if (target.control != nullptr) reveal(*target.control);
     restored();
 }

@@ -1,131 +1,74 @@
 #include "solvers/MIP/certificates.h"
 
-#include <algorithm>
-#include <cmath>
-#include <optional>
-
-#include "solvers/MIP/check.h"
-
 namespace vantore::mip {
-
-using miprog::SolverInput;
 
 namespace {
 
-constexpr double rounding = 1E-09; // of the largest term: what is less counts as 0
-
-double largest(const std::vector<double>& values) {
-    double most = 0;
-    for (const double value : values) most = std::max(most, std::abs(value));
-    return most;
+/// The end of a range where a factor of this sign makes the product least; nothing where there is none.
+const std::optional<Integer>& cheapestEnd(const Range& range, const Integer& factor) {
+    return factor > 0 ? range.lower : range.upper;
 }
 
-/// Makes what is only rounding exactly 0.
-void cleanse(std::vector<double>& values) {
-    const double least = rounding * largest(values);
-    for (double& value : values)
-        if (std::abs(value) <= least) value = 0;
+bool keeps(const Range& range, const Integer& value, const Integer& scale) {
+    return !(range.lower && value < *range.lower * scale) && !(range.upper && value > *range.upper * scale);
 }
 
-std::vector<int> placesOfOthersThan0(const std::vector<double>& values) {
-    std::vector<int> places;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        if (values[i] != 0) places.push_back(static_cast<int>(i) + 1);
-    return places;
-}
-
-/// A sum together with its largest term.
-struct Sum {
-    double value = 0;
-    double scale = 0;
-
-    void add(double term) {
-        value += term;
-        scale = std::max(scale, std::abs(term));
-    }
-    bool isZero() const { return std::abs(value) <= rounding * scale; }
-};
-
-/// The most that the sum of the left sides under the multipliers may be; nothing when a multiplier's sign
-/// doesn't go with its relation.
-std::optional<Sum> mostOfRightSides(const SolverInput& input, const std::vector<double>& multipliers) {
-    Sum most;
-    for (int i = 1; i <= input.m; ++i) {
-        const double multiplier = multipliers[static_cast<std::size_t>(i - 1)];
-        if (multiplier * input.rowSense(i) < 0) return std::nullopt;
-        most.add(multiplier * input.rhs(i));
-    }
-    return most;
-}
-
-/// The least that the same sum can be within the bounds; nothing when it has no least value.
-std::optional<Sum> leastOfLeftSides(const SolverInput& input, const std::vector<double>& multipliers) {
-    Sum least;
-    const std::vector<int> rows = placesOfOthersThan0(multipliers);
-    for (int j = 1; j <= input.n; ++j) {
-        Sum factor;
-        for (const int i : rows) factor.add(multipliers[static_cast<std::size_t>(i - 1)] * input.coef(i, j));
-        if (factor.isZero()) continue;
-        const double bound = factor.value > 0 ? input.bounds(j).lower : input.bounds(j).upper;
-        if (std::abs(bound) >= largestNumber) return std::nullopt;
-        least.add(factor.value * bound);
-    }
-    return least;
-}
-
-bool contradicts(const SolverInput& input, const std::vector<double>& multipliers) {
-    const auto most = mostOfRightSides(input, multipliers);
-    const auto least = leastOfLeftSides(input, multipliers);
-    return most && least && least->value - most->value > rounding * std::max(most->scale, least->scale);
-}
-
-/// The bounds allow the direction, and so do the constraints.
-bool neverEnds(const SolverInput& input, const std::vector<double>& ray) {
-    for (int j = 1; j <= input.n; ++j) {
-        const double direction = ray[static_cast<std::size_t>(j - 1)];
-        if (direction > 0 && input.bounds(j).upper < largestNumber) return false;
-        if (direction < 0 && input.bounds(j).lower > -largestNumber) return false;
-    }
-    for (int i = 1; i <= input.m; ++i) {
-        Sum change;
-        for (int j = 1; j <= input.n; ++j)
-            change.add(input.coef(i, j) * ray[static_cast<std::size_t>(j - 1)]);
-        if (change.isZero()) continue;
-        if (input.rowSense(i) == 0 || change.value * input.rowSense(i) > 0) return false;
-    }
-    return true;
-}
-
-bool improves(const SolverInput& input, const std::vector<double>& ray) {
-    const ObjectiveValue change = objectiveOf(input, ray);
-    return change.value * input.objectiveFlag > rounding * change.scale;
+/// True when a change of this sign stays within the range for ever.
+bool allows(const Range& range, const Integer& change) {
+    return change == 0 || !(change > 0 ? range.upper : range.lower);
 }
 
 } // namespace
 
-std::vector<int> provenConflict(const SolverInput& input, std::vector<double> multipliers) {
-    cleanse(multipliers);
-    std::vector<double> negatives = multipliers;
-    for (double& multiplier : negatives) multiplier = -multiplier;
-    const bool proven = contradicts(input, multipliers) || contradicts(input, negatives);
-    return proven ? placesOfOthersThan0(multipliers) : std::vector<int>();
-}
-
-std::vector<int> conflictInOneRow(const SolverInput& input) {
-    std::vector<double> multipliers(static_cast<std::size_t>(input.m), 0);
-    for (int i = 1; i <= input.m; ++i) {
-        double& own = multipliers[static_cast<std::size_t>(i - 1)];
-        for (own = -1; own <= 1; own += 2)
-            if (contradicts(input, multipliers)) return {i};
-        own = 0;
+std::optional<SafeBound> safeBound(const Model& model, const Box& box, const Multipliers& multipliers) {
+    SafeBound bound;
+    for (const Integer& cost : model.costs) bound.reducedCosts.emplace_back(cost * multipliers.scale);
+    for (std::size_t i = 0; i < model.rowCount(); ++i) {
+        const Integer& factor = multipliers.rows[i];
+        if (factor == 0) continue;
+        const auto& end = cheapestEnd(model.rows[i].range, factor);
+        if (!end) continue;
+        bound.cost += factor * *end;
+        for (const Term& term : model.rows[i].terms) bound.reducedCosts[term.column] -= factor * term.factor;
     }
-    return {};
+    for (std::size_t j = 0; j < box.size(); ++j) {
+        const Integer& factor = bound.reducedCosts[j];
+        if (factor == 0) continue;
+        const auto& end = cheapestEnd(box[j], factor);
+        if (!end) return std::nullopt;
+        bound.cost += factor * *end;
+    }
+    return bound;
 }
 
-std::vector<int> provenRay(const SolverInput& input, std::vector<double> ray) {
-    cleanse(ray);
-    const bool proven = neverEnds(input, ray) && improves(input, ray);
-    return proven ? placesOfOthersThan0(ray) : std::vector<int>();
+bool contradict(const Model& model, const Box& box, std::vector<Integer> multipliers) {
+    const auto bound = safeBound(model, box, {std::move(multipliers), 0});
+    return bound && bound->cost > 0;
+}
+
+bool keepsAll(const Model& model, const ExactPoint& point) {
+    for (std::size_t j = 0; j < model.columnCount(); ++j)
+        if (!keeps(model.box[j], point.values[j], point.scale)) return false;
+    for (const Row& row : model.rows) {
+        Integer leftSide;
+        for (const Term& term : row.terms) leftSide += term.factor * point.values[term.column];
+        if (!keeps(row.range, leftSide, point.scale)) return false;
+    }
+    return true;
+}
+
+bool fallsForEver(const Model& model, const std::vector<Integer>& direction) {
+    Integer costChange;
+    for (std::size_t j = 0; j < model.columnCount(); ++j) {
+        if (!allows(model.box[j], direction[j])) return false;
+        costChange += model.costs[j] * direction[j];
+    }
+    for (const Row& row : model.rows) {
+        Integer change;
+        for (const Term& term : row.terms) change += term.factor * direction[term.column];
+        if (!allows(row.range, change)) return false;
+    }
+    return costChange < 0;
 }
 
 } // namespace vantore::mip

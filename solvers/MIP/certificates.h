@@ -1,26 +1,40 @@
 #pragma once
 
-#include <vector>
-
-#include "mathprog/MIPROG/exchange.h"
+#include "solvers/MIP/model.h"
+#include "solvers/MIP/point.h"
 
 namespace vantore::mip {
 
-/// What a linear program that has no optimum is explained by. Each is tested before it is told: a multiplier
-/// or a ray that proves nothing gives an empty list.
+/// What a proof is made of: numbers that show in exact arithmetic what they prove, wherever they come from.
 
-/// The constraints (from 1) with a multiplier other than 0, when the sum of the constraints under these
-/// multipliers, or under their negatives, can't be satisfied within the variables' bounds. `multipliers` has
-/// constraint i at i - 1.
+/// Whole multipliers of the rows over a common scale. With scale 0 the objective is left out.
+struct Multipliers {
+    std::vector<Integer> rows;
+    Integer scale;
+};
+
+/// A bound on the cost of all that is in a box, and the costs that are left over on the variables, both times
+/// the multipliers' scale.
+struct SafeBound {
+    Integer cost;
+    std::vector<Integer> reducedCosts;
+};
+
+/// No solution of the rows within the box costs less than this, whatever the multipliers; nothing where they
+/// show no bound. A multiplier whose sign doesn't go with its row counts as 0.
+/// Source: Neumaier and Shcherbina, "Safe bounds in linear and mixed-integer programming" (2004).
+std::optional<SafeBound> safeBound(const Model& model, const Box& box, const Multipliers& multipliers);
+
+/// True when the sum of the rows under these multipliers can't be satisfied within the box.
 /// Source: Farkas, "Theorie der einfachen Ungleichungen" (1902).
-std::vector<int> provenConflict(const miprog::SolverInput& input, std::vector<double> multipliers);
+bool contradict(const Model& model, const Box& box, std::vector<Integer> multipliers);
 
-/// The first constraint that can't be satisfied within the variables' bounds, all others left out; none where
-/// each can be.
-std::vector<int> conflictInOneRow(const miprog::SolverInput& input);
+/// True when the point keeps every row and bound of the model; whether its integers are whole is another
+/// matter.
+bool keepsAll(const Model& model, const ExactPoint& point);
 
-/// The variables (from 1) with a direction other than 0, when every constraint and bound allows to go on in
-/// this direction for ever and the objective improves all the way. `ray` has variable j at j - 1.
-std::vector<int> provenRay(const miprog::SolverInput& input, std::vector<double> ray);
+/// True when every row and bound of the model allows to go on in this direction for ever, and the cost falls
+/// all the way.
+bool fallsForEver(const Model& model, const std::vector<Integer>& direction);
 
 } // namespace vantore::mip

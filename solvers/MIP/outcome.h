@@ -1,57 +1,55 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <vector>
+
+#include "solvers/MIP/model.h"
+#include "solvers/MIP/relaxation.h"
+#include "solvers/MIP/search.h"
+#include "solvers/watch/watch.h"
 
 namespace vantore::mip {
 
-/// When the search ends by itself.
-struct Limits {
-    double seconds = 60;
-    int nodes = 1000000;
+/// Seconds of the stages of a run, one after another: the problem without its integer requirements, the
+/// search for a solution, the proof that there is no better one.
+struct StageSeconds {
+    double relaxation = 0;
+    double search = 0;
+    double proof = 0;
 };
 
-/// A solution that has passed the check. Variable j stands at j - 1, constraint i at i - 1.
-struct Solution {
-    double objective = 0;
-    std::vector<double> values;
-    std::vector<double> leftSides;
-};
-
-/// The optimum of the problem without its integer requirements. A reduced cost and a dual value are what the
-/// objective value changes by for one unit more of the variable, of the right-hand side.
-struct Relaxation {
-    double objective = 0;
-    std::vector<double> values;
-    std::vector<double> reducedCosts;
-    std::vector<double> dualValues;
-};
+/// When each stage is ended at the latest.
+constexpr StageSeconds usualLimits{20, 60, 60};
 
 enum class Status {
+    // Proved in exact arithmetic:
     Optimal,
     Infeasible,
     Unbounded,
-    TimeLimit,
-    NodeLimit,
-    Interrupted,
-    BrokenDown, ///< The library that searches has failed.
-    Unproved,   ///< A solution, but the arithmetic does not bear out that it is the best.
-    NotSolved,
+    // Claimed by the library that searches, not proved:
+    OptimalWithinTolerances,
+    NoneWithinTolerances,
+    // Neither:
+    Stopped,
+};
+
+enum class Stage { Relaxation, Search, Proof };
+
+/// A stage that didn't come to its end.
+struct Halt {
+    Stage stage = Stage::Search;
+    watch::End cause = watch::End::TimeLimit;
 };
 
 /// All that is to be reported of a run.
 struct Outcome {
-    Status status = Status::NotSolved;
-    std::string reason; ///< a sentence, where the status alone doesn't say why
-    std::optional<Solution> solution;
-    std::optional<Relaxation> relaxation;
-    std::optional<double> bound; ///< No solution has a better objective value.
-    std::vector<int> conflict;   ///< constraints that contradict each other
-    std::vector<int> unlimited;  ///< variables along which the objective grows without limit
-    int nodes = 0;
-    int iterations = 0;
-    double seconds = 0;
+    Status status = Status::Stopped;
+    std::optional<Halt> halt;              ///< why there is no more, unless the outcome is proved
+    std::optional<int> withoutWholeNumber; ///< an integer variable (from 1) whose bounds hold none
+    std::optional<Solution> solution;      ///< It holds exactly.
+    std::optional<Relaxation> relaxation;  ///< It is proved.
+    SearchProgress search;                 ///< its bound in the problem's units
+    long long proofNodes = 0;
+    StageSeconds used;
 };
 
 } // namespace vantore::mip

@@ -2,34 +2,24 @@
 
 #include <vector>
 
-#include "mathprog/MIPROG/exchange.h"
-#include "solvers/MIP/outcome.h"
-#include "solvers/MIP/progress.h"
+#include "solvers/MIP/exact_simplex.h"
+#include "solvers/MIP/model.h"
 
 namespace vantore::mip {
 
-enum class LinearStatus { Optimal, Infeasible, Unbounded, Stopped, Failed };
-
-struct LinearResult {
-    LinearStatus status = LinearStatus::Failed;
-    Relaxation relaxation; ///< where the status is Optimal
-    std::vector<int>
-        conflict; ///< Infeasible: constraints that contradict each other, where a proof was found
-    std::vector<int> unlimited; ///< Unbounded: variables along a ray that was found
-    int iterations = 0;
+/// The problem without its integer requirements, solved exactly, all in the problem's units. A reduced cost
+/// and a dual value are what the objective value changes by for one unit more of the variable, of the
+/// right-hand side.
+struct Relaxation {
+    LinearEnd end = LinearEnd::Infeasible;
+    Rational objective;                                     ///< Optimal
+    std::vector<Rational> values, reducedCosts, dualValues; ///< Optimal
+    std::vector<int> conflict;  ///< Infeasible: constraints (from 1) that contradict each other
+    std::vector<int> unlimited; ///< Unbounded: variables (from 1) along which the objective improves for ever
 };
 
-/// How carefully to compute.
-enum class Care { Usual, Strict };
-
-/// Solves the problem without its integer requirements by the simplex method, for at most `seconds`.
-/// Infeasible and Unbounded are proved; what can't be proved is Failed.
-LinearResult solveRelaxation(const miprog::SolverInput& input, double seconds, Care care,
-                             const Progress& progress);
-
-/// The best continuous variables for the integer variables as they are in `values`, rounded. `values` itself,
-/// rounded, when none are found within `seconds`.
-std::vector<double> withIntegersFixed(const miprog::SolverInput& input, std::vector<double> values,
-                                      double seconds);
+/// Solves it; each claim has been held against its certificate. std::logic_error where one doesn't hold. No
+/// variable's bounds may be empty.
+Relaxation relax(const Model& model);
 
 } // namespace vantore::mip

@@ -8,34 +8,97 @@
 #include <cmath>
 #include <memory>
 
-#include "solvers/MIP/check.h"
+#include "solvers/MIP/exact_simplex.h"
 #include "solvers/MIP/linear_model.h"
-#include "solvers/MIP/tightening.h"
+#include "solvers/MIP/propagation.h"
 
 namespace vantore::mip {
 
-using miprog::SolverInput;
-
 namespace {
-
-constexpr double strictTolerance = 1E-09;
 
 // CBC's settings for branching on several candidates before it trusts its estimates.
 constexpr int strongCandidates = 5;
 constexpr int trustedBranchings = 5;
 
-/// Looks on at the search: keeps its solutions and its bound, and stops it when that is asked for.
+constexpr double integerTolerance = 1E-09; // what a variable may be off a whole number and count as one
+constexpr double leastGain = 1E-09;        // of the objective: what a better solution is better by
+constexpr double agreement = 1E-06;    // of the objective: what the library's and the exact cost differ by
+constexpr double largestWhole = 1E+09; // where the rows set an integer variable no bound
+constexpr int nodesBetweenNews = 50;
+
+/// Exact solutions from the library's: its integers rounded, the continuous variables fitted to them.
+class Completion {
+  public:
+    explicit Completion(const Model& model) : model_(model), simplex_(model) {}
+
+    std::optional<ExactPoint> of(const double* values) {
+        Box box = model_.box;
+        for (std::size_t j = 0; j < box.size(); ++j) {
+            if (!model_.whole[j]) continue;
+            if (!std::isfinite(values[j])) return std::nullopt;
+            const Integer whole(std::nearbyint(values[j]));
+            if ((box[j].lower && whole < *box[j].lower) || (box[j].upper && whole > *box[j].upper))
+                return std::nullopt;
+            box[j] = {whole, whole};
+        }
+        const ExactResult result = simplex_.solve(box);
+        if (result.end != LinearEnd::Optimal) return std::nullopt;
+        return ExactPoint{result.values, result.scale};
+    }
+
+  private:
+    const Model& model_;
+    ExactSimplex simplex_;
+};
+
+/// A cost in the library's unit, and back.
+double libraryCost(const LinearModel& linear, const Rational& cost) {
+    return std::ldexp(approximate(cost), static_cast<int>(linear.costPower));
+}
+
+std::optional<Rational> modelCost(const LinearModel& linear, double cost) {
+    constexpr double none = 1E+40;
+    if (!(std::abs(cost) < none)) return std::nullopt;
+    Rational result(cost);
+    result <<= static_cast<unsigned long>(-linear.costPower);
+    return result;
+}
+
+/// Looks on at the search and tells what it finds.
 class Watcher : public CbcEventHandler {
   public:
-    Watcher(const SolverInput& input, Progress& progress) : input_(input), progress_(progress) {}
+    struct Found {
+        Completion completion;
+        std::optional<Rational> cost; ///< of the best exact solution
+    };
+
+    Watcher(const Model& model, const LinearModel& linear, const SearchNews& news, Found& found)
+        : task_(&model), linear_(&linear), news_(&news), found_(&found) {}
 
     CbcAction event(CbcEvent which) override {
-        if (which == solution || which == heuristicSolution) keepSolution();
-        if (which == node && !insideHeuristic()) tellBound();
-        return progress_.stopping() ? stop : noAction;
+        if (insideHeuristic()) return noAction;
+        if (which == solution || which == heuristicSolution) takeSolution(*model_);
+        if (which == node && model_->getNodeCount() % nodesBetweenNews == 0) tellProgress(*model_);
+        return noAction;
     }
     CbcAction event(CbcEvent which, void* /*data*/) override { return event(which); }
     CbcEventHandler* clone() const override { return std::make_unique<Watcher>(*this).release(); }
+
+    void takeSolution(const CbcModel& search) const {
+        const double* values = search.bestSolution();
+        if (values == nullptr || search.getNumCols() < static_cast<int>(task_->columnCount())) return;
+        const auto point = found_->completion.of(values);
+        if (!point) return;
+        const Rational cost = costOf(*task_, *point);
+        if (found_->cost && cost >= *found_->cost) return;
+        found_->cost = cost;
+        news_->betterSolution(*point);
+    }
+
+    void tellProgress(const CbcModel& search) const {
+        news_->progress({search.getNodeCount(), search.getIterationCount(),
+                         modelCost(*linear_, search.getBestPossibleObjValue())});
+    }
 
   private:
     /// Heuristics search parts of the problem in models of their own.
@@ -44,92 +107,77 @@ class Watcher : public CbcEventHandler {
         return (model_->specialOptions() & subModel) != 0;
     }
 
-    void keepSolution() {
-        const double* values = model_->bestSolution();
-        if (values == nullptr || insideHeuristic() || model_->getNumCols() != input_.n) return;
-        const Checked found = checked(input_, {values, values + input_.n});
-        if (found.solution) keepBest(input_, *found.solution, progress_);
-    }
-
-    void tellBound() {
-        const int nodes = model_->getNodeCount();
-        const int iterations = model_->getIterationCount();
-        progress_.update([&](Outcome& outcome) {
-            outcome.nodes = nodes;
-            outcome.iterations = iterations;
-        });
-    }
-
-    const SolverInput& input_;
-    Progress& progress_;
+    const Model* task_;
+    const LinearModel* linear_;
+    const SearchNews* news_;
+    Found* found_;
 };
 
-OsiClpSolverInterface interfaceFor(const SolverInput& input, const SearchTask& task) {
-    LinearModel model = linearModel(tightened(input));
-    if (task.anySolution) std::fill(model.objective.begin(), model.objective.end(), 0.0);
+/// Finite bounds for every integer variable, within which the library is to search.
+void limitIntegers(const Model& model, Box& box) {
+    const Integer most(largestWhole);
+    for (std::size_t j = 0; j < box.size(); ++j) {
+        if (!model.whole[j]) continue;
+        if (!box[j].lower) box[j].lower = box[j].upper ? Integer(*box[j].upper - most) : Integer(-most);
+        if (!box[j].upper) box[j].upper = *box[j].lower + most;
+    }
+}
+
+OsiClpSolverInterface interfaceFor(const Model& model, const LinearModel& linear) {
     OsiClpSolverInterface solver;
     solver.messageHandler()->setLogLevel(0);
-    solver.loadProblem(model.matrix, model.columnLower.data(), model.columnUpper.data(),
-                       model.objective.data(), model.rowLower.data(), model.rowUpper.data());
-    for (const int j : input.intIndex.span()) solver.setInteger(j - 1);
-    if (task.care == Care::Strict) {
-        solver.setDblParam(OsiPrimalTolerance, strictTolerance);
-        solver.setDblParam(OsiDualTolerance, strictTolerance);
-    }
+    solver.loadProblem(linear.matrix, linear.columnLower.data(), linear.columnUpper.data(),
+                       linear.objective.data(), linear.rowLower.data(), linear.rowUpper.data());
+    for (std::size_t j = 0; j < model.columnCount(); ++j)
+        if (model.whole[j]) solver.setInteger(static_cast<int>(j));
     return solver;
 }
 
-void prepare(CbcModel& model, const SearchTask& task) {
-    model.setLogLevel(0);
-    model.setUseElapsedTime(true);
-    model.setMaximumSeconds(std::max(task.limits.seconds, 0.0));
-    model.setMaximumNodes(task.limits.nodes);
-    if (task.anySolution) model.setMaximumSolutions(1);
-    model.setIntegerTolerance(integerTolerance);
-    model.setAllowableGap(0);
-    // Strict is plain branch and bound: no cut that rounding could have made wrong.
-    if (task.care == Care::Strict) return;
-    CbcStrategyDefault strategy(1, strongCandidates, trustedBranchings, 0);
-    model.setStrategy(strategy);
+/// What a solution must be better by to be worth searching for, in the library's unit.
+double increment(const Model& model, const LinearModel& linear, const CbcModel& search) {
+    constexpr double nearly = .999;
+    if (model.hasWholeObjective()) return nearly * std::ldexp(1, static_cast<int>(linear.costPower));
+    return leastGain * std::abs(search.getContinuousObjective());
 }
 
-SearchEnd endOf(const CbcModel& model, const SearchTask& task, const Progress& progress) {
-    const bool found = model.bestSolution() != nullptr;
-    if (found && task.anySolution) return SearchEnd::Optimal;
-    if (progress.stopping()) return SearchEnd::Interrupted;
-    if (model.isProvenInfeasible()) return SearchEnd::Infeasible;
-    if (model.isProvenOptimal()) return found ? SearchEnd::Optimal : SearchEnd::Infeasible;
-    if (model.isNodeLimitReached()) return SearchEnd::NodeLimit;
-    if (model.isSecondsLimitReached()) return SearchEnd::TimeLimit;
-    return SearchEnd::Failed;
+void prepare(CbcModel& search) {
+    search.setLogLevel(0);
+    search.setIntegerTolerance(integerTolerance);
+    search.setAllowableGap(0);
+    search.setAllowableFractionGap(0);
+    CbcStrategyDefault strategy(1, strongCandidates, trustedBranchings, 0);
+    search.setStrategy(strategy);
+}
+
+SearchEnd endOf(const CbcModel& search, const LinearModel& linear, const std::optional<Rational>& found) {
+    if (search.bestSolution() == nullptr)
+        return search.isProvenInfeasible() || search.isProvenOptimal() ? SearchEnd::Infeasible
+                                                                       : SearchEnd::Failed;
+    if (!search.isProvenOptimal() || !found) return SearchEnd::Failed;
+    const double claimed = search.getObjValue();
+    const double reached = libraryCost(linear, *found);
+    const bool agrees = reached <= claimed + agreement * std::abs(claimed);
+    return agrees ? SearchEnd::Optimal : SearchEnd::Failed;
 }
 
 } // namespace
 
-SearchResult branchAndCut(const SolverInput& input, const SearchTask& task, Progress& progress) {
-    CbcModel model(interfaceFor(input, task));
-    prepare(model, task);
-    const Watcher watcher(input, progress);
-    model.passInEventHandler(&watcher);
-    model.branchAndBound();
-    SearchResult result;
-    result.end = endOf(model, task, progress);
-    if (const double* values = model.bestSolution(); values != nullptr) {
-        result.values.assign(values, values + input.n);
-        result.objective = modelSign(input) * model.getObjValue();
-    }
-    const double bound = modelSign(input) * model.getBestPossibleObjValue();
-    if (!task.anySolution && std::abs(bound) < largestNumber) result.bound = bound;
-    result.nodes = model.getNodeCount();
-    result.iterations = model.getIterationCount();
-    return result;
-}
-
-void keepBest(const SolverInput& input, const Solution& solution, Progress& progress) {
-    progress.update([&](Outcome& outcome) {
-        if (!outcome.solution || better(input, solution.objective, outcome.solution->objective))
-            outcome.solution = solution;
-    });
+SearchEnd search(const Model& given, const SearchNews& news) {
+    Model model = divided(given);
+    if (!Propagation(model).narrow(model.box)) return SearchEnd::Infeasible;
+    limitIntegers(model, model.box);
+    const LinearModel linear = linearModel(model);
+    CbcModel search(interfaceFor(model, linear));
+    prepare(search);
+    search.initialSolve();
+    search.setCutoffIncrement(increment(model, linear, search));
+    Watcher::Found found{Completion(model), std::nullopt};
+    Watcher watcher(model, linear, news, found);
+    search.passInEventHandler(&watcher);
+    search.branchAndBound();
+    watcher.takeSolution(search);
+    watcher.tellProgress(search);
+    return endOf(search, linear, found.cost);
 }
 
 } // namespace vantore::mip

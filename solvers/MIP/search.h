@@ -1,43 +1,31 @@
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
+#include <functional>
 
-#include "mathprog/MIPROG/exchange.h"
-#include "solvers/MIP/outcome.h"
-#include "solvers/MIP/progress.h"
-#include "solvers/MIP/relaxation.h"
+#include "solvers/MIP/model.h"
+#include "solvers/MIP/point.h"
 
 namespace vantore::mip {
 
-enum class SearchEnd { Optimal, Infeasible, TimeLimit, NodeLimit, Interrupted, Failed };
+/// What the library's search comes to: within its tolerances, which prove nothing.
+enum class SearchEnd { Optimal, Infeasible, Failed };
 
-/// What an integer variable may be off a whole number and count as one.
-constexpr double integerTolerance = 1E-09;
-
-struct SearchResult {
-    SearchEnd end = SearchEnd::Failed;
-    std::vector<double>
-        values;           ///< the best solution as the search has it, not checked; empty when there is none
-    double objective = 0; ///< its value as the search has it
-    std::optional<double> bound;
-    int nodes = 0;
-    int iterations = 0;
+/// How far a search has come. `bound` is what the library takes for the least cost that can be.
+struct SearchProgress {
+    long long nodes = 0;
+    long long iterations = 0;
+    std::optional<Rational> bound;
 };
 
-/// What the search is to do besides the problem itself.
-struct SearchTask {
-    Limits limits;
-    Care care = Care::Usual;
-    bool anySolution = false; ///< Leaves the objective out: the first solution will do.
+/// Whom a search tells what it comes across: solutions that hold exactly, each better than the one before.
+struct SearchNews {
+    std::function<void(const ExactPoint&)> betterSolution;
+    std::function<void(const SearchProgress&)> progress;
 };
 
-/// Branch and cut. Solutions found on the way are checked and kept in `progress`.
-/// Source of the method: Land and Doig (1960), with the cutting planes of the CBC library.
-SearchResult branchAndCut(const miprog::SolverInput& input, const SearchTask& task, Progress& progress);
-
-/// Keeps a solution as the best one so far when it is.
-void keepBest(const miprog::SolverInput& input, const Solution& solution, Progress& progress);
+/// Searches for the best solution of a model by branch and cut. Optimal: the last solution that it has told
+/// is as good as the library says that the best one is.
+/// Source of the method: Land and Doig (1960), with the cutting planes and heuristics of the CBC library.
+SearchEnd search(const Model& model, const SearchNews& news);
 
 } // namespace vantore::mip

@@ -7,7 +7,6 @@
 
 #include "mathprog/MIPROG/exchange.h"
 #include "shell/base/text.h"
-#include "solvers/MIP/check.h"
 #include "solvers/MIP/report.h"
 #include "solvers/MIP/solve.h"
 
@@ -16,10 +15,10 @@ namespace {
 using namespace vantore;
 
 constexpr int mostSolvedSize = 12; // constraints and variables
-constexpr mip::Limits tinyLimits{.seconds = .2, .nodes = 20};
+constexpr mip::StageSeconds tinyLimits{.relaxation = 1, .search = .2, .proof = .2};
 
-/// The library's own assertions fire on coefficients that are worlds apart, which ends this process though
-/// not MIP.EXE, where the search is watched over.
+/// The library's own assertions fire on coefficients that are worlds apart, which is a failure of the search
+/// that MIP.EXE lives with. Here a stage that breaks down is a finding.
 bool isModerate(const miprog::SolverInput& input) {
     constexpr double most = 1E6;
     constexpr double least = 1E-6;
@@ -36,10 +35,9 @@ bool isModerate(const miprog::SolverInput& input) {
 void solveAndReport(miprog::SolverInput input) {
     input.names = {};
     for (int j = 1; j <= input.n; ++j) input.names.add("v");
-    mip::Progress progress;
-    mip::solve(input, tinyLimits, progress);
-    const mip::Outcome outcome = progress.outcome();
-    if (outcome.solution && !mip::checked(input, outcome.solution->values).solution) std::abort();
+    const mip::Outcome outcome = mip::solve(input, tinyLimits);
+    if (outcome.halt && outcome.halt->cause == watch::End::Failed) std::abort();
+    if (outcome.solution && !mip::checked(input, outcome.solution->values)) std::abort();
     if (outcome.status == mip::Status::Optimal && !outcome.solution) std::abort();
     const PrintLines page = mip::report(input, outcome, tinyLimits);
     for (const std::string& line : page.lines())

@@ -61,10 +61,11 @@ TEST(MessageBox, WidensBeforeItWouldLeaveTheScreen) {
     EXPECT_LE(box.cmdOK.design.bottom(), box.height);
 }
 
-TEST(Question, CountsAsNoWhenItIsClosedByItsTitleBar) {
+TEST(Question, HasNoAnswerWhenItIsClosedByItsTitleBar) {
     YNBx box({1, 1}, "Save data?", "COG", 8);
     box.close();
-    EXPECT_EQ(box.reply, replyNo);
+    EXPECT_TRUE(box.closed);
+    EXPECT_EQ(box.reply, std::nullopt);
     YNBx yes({1, 1}, "Save data?", "COG", 8);
     yes.press(yes.cmdYes);
     EXPECT_EQ(yes.reply, replyYes);

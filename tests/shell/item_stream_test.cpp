@@ -39,6 +39,31 @@ TEST(ItemReader, TakesALoneQuoteToTheEndOfTheFile) {
     EXPECT_TRUE(reader.atEnd());
 }
 
+TEST(ItemReader, DropsWhatStandsBehindAClosingQuote) {
+    ItemReader reader("\"A\" or B,2\r\n\"C\"\r\n\"\"");
+    EXPECT_EQ(reader.readString(), "A");
+    EXPECT_EQ(reader.readNumber(), 2);
+    EXPECT_EQ(reader.readString(), "C");
+    EXPECT_FALSE(reader.atEnd());
+    EXPECT_EQ(reader.readString(), "");
+    EXPECT_TRUE(reader.atEnd());
+}
+
+TEST(ItemReader, EndsALineOnceAtCrLf) {
+    ItemReader reader("1\r\n2\r\r3\n\n4\t\t \r\n");
+    std::string items;
+    while (!reader.atEnd()) items += reader.readString() + ";";
+    EXPECT_EQ(items, "1;2;;3;;4;");
+}
+
+TEST(ItemReader, RoundsACount) {
+    EXPECT_EQ(ItemReader("2.5").readCount(500), 2);
+    EXPECT_EQ(ItemReader("500.4").readCount(500), 500);
+    EXPECT_EQ(ItemReader("-.4").readCount(500), 0);
+    EXPECT_EQ(errorOf([] { ItemReader("500.6").readCount(500); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([] { ItemReader("").readCount(500); }), ErrorNumber::InputPastEnd);
+}
+
 TEST(ItemReader, RefusesCountsThatCanNotBe) {
     for (const char* text : {"-1", "501", "1E+99", "1E+999", "many", "3 points", "\"\"", ","}) {
         ItemReader reader(text);

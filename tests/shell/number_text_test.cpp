@@ -54,6 +54,15 @@ TEST(Fitted, NeedsRoomForAnyNumber) {
     EXPECT_THROW(fitted(1, 6), RuntimeError);
 }
 
+TEST(Fitted, ShowsAsManyDigitsAsFit) {
+    EXPECT_EQ(fitted(1234567, 7), "1234567");
+    EXPECT_EQ(fitted(12345678, 7), "1.2E+07");
+    EXPECT_EQ(fitted(1234.5678, 8), "1234.568");
+    EXPECT_EQ(fitted(.000123456, 8), ".0001235");
+    EXPECT_EQ(fitted(1.5E-10, 7), "1.5E-10");
+    EXPECT_EQ(fitted(99999.996, 8), "100000");
+}
+
 TEST(Joined, AlwaysHasOneBlankBetween) {
     EXPECT_EQ(joined("Check point ", 6), "Check point 6");
     EXPECT_EQ(joined("Limit is", 500), "Limit is 500");
@@ -73,9 +82,28 @@ TEST(Val, TakesTheLongestNumericPrefix) {
     EXPECT_EQ(val(""), 0);
 }
 
+TEST(Val, TakesOneSignAndOneExponent) {
+    EXPECT_EQ(val("-.5"), -.5);
+    EXPECT_EQ(val("-"), 0);
+    EXPECT_EQ(val("+-5"), 0);
+    EXPECT_EQ(val("\n-3"), -3);
+    EXPECT_EQ(val("\r3"), 0);
+    EXPECT_EQ(val("1e2e3"), 100);
+    EXPECT_EQ(val("1E-2"), .01);
+    EXPECT_EQ(val("1D+2"), 100);
+    EXPECT_EQ(val("e5"), 0);
+    EXPECT_EQ(val(".e5"), 0);
+    EXPECT_EQ(val("09"), 9);
+}
+
 TEST(Val, OverflowsOnlyUpwards) {
     EXPECT_THROW(val("1E999"), RuntimeError);
     EXPECT_EQ(val("1E-999"), 0);
+    EXPECT_THROW(val("1" + std::string(400, '0')), RuntimeError);
+    EXPECT_THROW(val("-1" + std::string(400, '0') + ".5"), RuntimeError);
+    EXPECT_EQ(val("." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(val("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(val("0E999"), 0);
 }
 
 TEST(NumberFrom, TakesNothingButANumber) {
@@ -109,6 +137,28 @@ TEST(Format, GroupsByThreeAndNeverCutsIntegerDigits) {
     EXPECT_EQ(format(1234567, "#,##0"), "1,234,567");
     EXPECT_EQ(format(1234567, "##0"), "1234567");
     EXPECT_EQ(format(123, "#,##0"), "123");
+}
+
+TEST(Format, GroupsAtEachThousand) {
+    EXPECT_EQ(format(999, "#,##0"), "999");
+    EXPECT_EQ(format(1000, "#,##0"), "1,000");
+    EXPECT_EQ(format(999999.5, "#,##0"), "1,000,000");
+    EXPECT_EQ(format(1E15, "#,##0"), "1,000,000,000,000,000");
+    EXPECT_EQ(format(7, "0,000"), "0,007");
+    EXPECT_EQ(format(1234, "##0, units"), "1,234 units");
+}
+
+TEST(Format, RoundsAwayToTheNextPlace) {
+    EXPECT_EQ(format(.5, "0"), "1");
+    EXPECT_EQ(format(.49, "0"), "0");
+    EXPECT_EQ(format(.04, "0.0"), "0.0");
+    EXPECT_EQ(format(.004, "0.0"), "0.0");
+    EXPECT_EQ(format(9.96, "0.0"), "10.0");
+    EXPECT_EQ(format(.00096, "0.000"), "0.001");
+    EXPECT_EQ(format(-1234.565, "###,###.#0"), "-1,234.57");
+    EXPECT_EQ(format(1.10, "0.##"), "1.1");
+    EXPECT_EQ(format(1.23456, "0.0##"), "1.235");
+    EXPECT_EQ(format(123000, "0"), "123000");
 }
 
 TEST(Format, KeepsOtherCharactersWhereTheyStand) {

@@ -35,6 +35,12 @@ TEST(PrintLines, TakesPositionsBelowOneAsOneAndRoundsTiesToEven) {
     EXPECT_EQ(page.lines(), Lines{"a  d"});
 }
 
+TEST(PrintLines, StartsEachLineAtItsFirstPosition) {
+    PrintLines page;
+    page.text("abc").endLine().tab(2).text("x").endLine().endLine().line("y").line("");
+    EXPECT_EQ(page.lines(), (Lines{"abc", " x", "", "y", ""}));
+}
+
 TEST(PrintLines, EndsATextBeforeItsRightPosition) {
     PrintLines page;
     page.right(6, "12.50").right(10, "7").endLine();
@@ -56,6 +62,8 @@ TEST(PrintLines, CountsCharactersNotBytes) {
 TEST(PrintLines, RefusesPositionsThatNoLineHas) {
     PrintLines page;
     EXPECT_THROW(page.tab(1E9), RuntimeError);
+    EXPECT_THROW(page.tab(32768), RuntimeError);
+    EXPECT_EQ(page.tab(32767).text("x").endLine().lines().at(0).size(), 32767U);
 }
 
 } // namespace

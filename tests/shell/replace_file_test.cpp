@@ -4,11 +4,13 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <random>
 #include <sstream>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -17,6 +19,19 @@
 #include "tests/support/error_of.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/temporary_folder.h"
+
+namespace {
+
+/// Told of each flush to the disk, by its descriptor.
+std::function<void(int)> onFlush;
+
+} // namespace
+
+/// Stands in for the system's, which it calls.
+extern "C" int fsync(int descriptor) {
+    if (onFlush) onFlush(descriptor);
+    return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
 
 namespace vantore::tests {
 namespace {
@@ -77,6 +92,39 @@ TEST(ReplaceFile, KeepsTheSpellingThatIsThere) {
     replaceFile(folder.path() / "COG \u00DC.DAT", "new");
     EXPECT_EQ(get(folder.path() / "Cog \u00FC.Dat"), "new");
     EXPECT_EQ(entriesIn(folder.path()), 1U);
+}
+
+TEST(ReplaceFile, FlushesTheFileBeforeItIsRenamedAndTheFolderAfterwards) {
+    const TemporaryFolder folder;
+    const fs::path path = folder.path() / "COG.dat";
+    put(path, "old");
+    std::vector<std::string> flushes;
+    onFlush = [&](int descriptor) {
+        struct stat status {};
+        fstat(descriptor, &status);
+        const std::string what =
+            S_ISDIR(status.st_mode) ? "folder" : std::to_string(status.st_size) + " bytes";
+        flushes.push_back(what + " while the file is " + get(path));
+    };
+    replaceFile(path, "newer");
+    onFlush = nullptr;
+    EXPECT_EQ(flushes,
+              (std::vector<std::string>{"5 bytes while the file is old", "folder while the file is newer"}));
+}
+
+TEST(ReplaceFile, LeavesNoDescriptorOpen) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder.path() / "COG2.dat");
+    replaceFile(folder.path() / "COG.dat", "");
+    const std::size_t before = entriesIn("/proc/self/fd");
+    for (int i = 0; i < 10; ++i) {
+        put(folder.path() / ".COG.dat.17.tmp", "left");
+        replaceFile(folder.path() / "COG.dat", "new");
+        writeLines(folder.path() / "OUTPUT.DAT", {"line"});
+        readTextFile(folder.path() / "OUTPUT.DAT");
+        EXPECT_EQ(errorOf([&] { replaceFile(folder.path() / "COG2.dat", ""); }), ErrorNumber::PathFileAccess);
+    }
+    EXPECT_EQ(entriesIn("/proc/self/fd"), before);
 }
 
 TEST(ReplaceFile, KeepsTheOldFileWhenItFails) {

@@ -99,12 +99,24 @@ TEST_F(SizeBoxTest, ForgetsCutRowsWhenTheTextIsReplacedTheBoxLeftOrAnotherContro
 }
 
 TEST_F(SizeBoxTest, LeavesTheGridAloneWhereThereIsNoSizeYet) {
+    TextBox patient("txtPatient");
+    SizeBox lone(patient, {&grid},
+                 {.most = 20,
+                  .present = [this] { return grid.rowCount(); },
+                  .shape = [this](int count) { setDataRows(grid, count); }});
     for (const char* text : {"", "-", " ", "many"}) {
-        type(text);
+        patient.setText(text);
         EXPECT_EQ(cells(), "abcde") << text;
     }
-    box.onLeave();
-    EXPECT_EQ(box.text(), "5");
+    patient.onLeave();
+    EXPECT_EQ(patient.text(), "5");
+}
+
+TEST_F(SizeBoxTest, TakesAnyTextForASizeWhereOneTooSmallIsToldOf) {
+    type("");
+    EXPECT_EQ(cells(), "abcde");
+    type("many");
+    EXPECT_EQ(grid.rowCount(), 0);
 }
 
 TEST_F(SizeBoxTest, TellsOfASizeBelowTheLeast) {

@@ -36,6 +36,38 @@ TEST(Characters, AreCodePoints) {
     EXPECT_EQ(withoutLast(""), "");
     EXPECT_EQ(utf8(codePoints("\xF0\x9F\x9A\x9A").at(0)), "\xF0\x9F\x9A\x9A");
     EXPECT_EQ(utf8(0xD800), "\xEF\xBF\xBD");
+    EXPECT_EQ(utf8(0xDFFF), "\xEF\xBF\xBD");
+    EXPECT_EQ(utf8(0x110000), "\xEF\xBF\xBD");
+}
+
+TEST(Utf8, TakesAsManyBytesAsItsCodePointNeeds) {
+    // The ends of each length, and the neighbours of the surrogates.
+    for (const char32_t point : {0x0, 0x7F, 0x80, 0x7FF, 0x800, 0xD7FF, 0xE000, 0xFFFF, 0x10000, 0x10FFFF}) {
+        const std::string bytes = utf8(point);
+        const std::size_t expected = point < 0x80 ? 1 : point < 0x800 ? 2 : point < 0x10000 ? 3 : 4;
+        EXPECT_EQ(bytes.size(), expected) << std::hex << std::uint32_t{point};
+        EXPECT_TRUE(isUtf8(bytes)) << std::hex << std::uint32_t{point};
+        EXPECT_EQ(codePoints(bytes), std::vector<char32_t>{point}) << std::hex << std::uint32_t{point};
+    }
+}
+
+TEST(Text, GoesOnBehindBytesThatAreNoUtf8) {
+    EXPECT_EQ(length("a\xFF\xC3z"), 4U);
+    EXPECT_EQ(codePoints("\xFFz"), (std::vector<char32_t>{0xFFFD, 'z'}));
+    EXPECT_EQ(characters("\xE2\x82z").size(), 3U);
+    EXPECT_EQ(left("abc", 5), "abc");
+    EXPECT_EQ(withoutFirst("\xC3\xBC"
+                           "bc",
+                           1),
+              "bc");
+    EXPECT_EQ(upperCase("az{`AZ"), "AZ{`AZ");
+    EXPECT_EQ(lowerCase("AZ[@az"), "az[@az");
+}
+
+TEST(Replaced, TakesEachPlaceOnce) {
+    EXPECT_EQ(replaced("aaa", "aa", "a"), "aa");
+    EXPECT_EQ(replaced("a,b,", ",", ", "), "a, b, ");
+    EXPECT_EQ(replaced("abc", "x", "y"), "abc");
 }
 
 TEST(Lines, EndInCrLfLfOrCr) {

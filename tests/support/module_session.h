@@ -43,6 +43,8 @@ class ModuleSession {
     /// The open module's window; std::bad_cast when the window in front is none.
     ModuleFrame& module() const { return dynamic_cast<ModuleFrame&>(*player_->front()); }
 
+    Form* front() const { return player_->front(); }
+
     /// The window in front is the launcher's.
     bool closed() const { return player_->front() == player_->launcher(); }
     const Launcher& launcher() const { return *player_->launcher(); }

@@ -132,6 +132,20 @@ TEST(Search, IsThePlainLoopsOnTheFinestGridOfEachModel) {
     EXPECT_EQ(differenceOn(salesWithSeason(Model::LevelTrendSeasonal, 24, .01)), "");
 }
 
+TEST(Search, FitsNoCombinationOfATameSeriesAgain) {
+    for (const Model model :
+         {Model::Level, Model::LevelTrend, Model::LevelSeasonal, Model::LevelTrendSeasonal}) {
+        const Problem problem = salesWithSeason(model, 40, .1);
+        Setting setting{.model = model, .dataPeriods = 40, .initialPeriods = 12, .seasonalLength = 4};
+        setting.errorPeriods = 12;
+        Series series;
+        for (int t = 1; t <= 40; ++t) series.y(t) = problem.periods(t).value;
+        const Best best = search(series, setting, ConstantGrid(model, 10));
+        EXPECT_EQ(best.redone, 0) << nameOf(model);
+        EXPECT_LT(best.squared, 1E+5) << nameOf(model);
+    }
+}
+
 TEST(Search, MeetsADivisionBy0InTheLastCombinationsToo) {
     // Behind a datum of 0 an alpha of 1 leaves a level of 0. Such combinations come last and never win.
     Problem problem = salesWithSeason(Model::LevelSeasonal, 40, .1);

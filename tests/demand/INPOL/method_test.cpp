@@ -185,9 +185,9 @@ TEST(OptimalPolicies, NeedDemandAndValue) {
 
 TEST(JointCycleTime, BalancesOrderAndCarryingCost) {
     Problem problem = problemOf({filter(), pump()});
-    problem.jointCost = 20;
-    // S = 60, W = .2 x 100 + .4 x 50 = 40: sqrt(2 x 80 / 40) = 2.
-    EXPECT_DOUBLE_EQ(jointCycleTime(problem), 2);
+    problem.jointCost = 260;
+    // S = 60, W = .2 x 100 + .4 x 50 = 40: sqrt(2 x 320 / 40) = 4.
+    EXPECT_DOUBLE_EQ(jointCycleTime(problem), 4);
 }
 
 TEST(JointCycleTime, IsTheSpecifiedOne) {

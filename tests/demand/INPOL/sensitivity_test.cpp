@@ -64,10 +64,12 @@ TEST(Sensitivity, OfServiceIndicesVariesTheIndexAlone) {
 
 TEST(Sensitivity, WithoutServiceIndicesHoldsTheQuantitiesThatWereFound) {
     const Solved result = solved(problemWith("N", "N"));
-    for (const int level : {1, 50, 101}) {
-        EXPECT_EQ(result.sensitivity.rows(2, level).ropQ, result.policies(2).ropQ);
-        EXPECT_EQ(result.sensitivity.rows(2, level).reviewTime, result.policies(2).ropQ / 100);
-    }
+    for (const int level : {1, 50, 101})
+        for (const int product : {1, 2}) {
+            EXPECT_EQ(result.sensitivity.rows(product, level).ropQ, result.policies(product).ropQ);
+            EXPECT_EQ(result.sensitivity.rows(product, level).reviewTime,
+                      result.policies(product).ropQ / 100);
+        }
     EXPECT_DOUBLE_EQ(result.sensitivity.rows(2, 81).ropInStock, 1 - 20 * .0473 / result.policies(2).ropQ);
 }
 

@@ -184,7 +184,7 @@ TEST(MulregWindow, CountsAddedAndDeletedRows) {
     EXPECT_EQ(session.grid("grdObs").at(2), "2 | 3 | 5 | 0 | 0 | 0");
 }
 
-TEST(MulregWindow, TitlesItsColumnMessageAsItAlwaysDid) {
+TEST(MulregWindow, TitlesItsColumnMessageAsForecastDoes) {
     ModuleSession session;
     opened(session);
     EXPECT_EQ(session.play("select grdObs 1 1 2 2\npress cmdArith"),
@@ -475,7 +475,7 @@ class MulregDirect : public testing::Test {
     void press(const char* name) { window.press(*window.find(name)); }
 
     void answer(std::initializer_list<const char*> answers) {
-        for (const char* each : answers) user.queueAnswer(each);
+        for (const char* each : answers) user.queueAnswer({.text = each});
     }
 
     ModuleSession folders;

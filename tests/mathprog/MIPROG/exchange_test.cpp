@@ -85,6 +85,22 @@ TEST(TemporaryLines, KeepNamesWithQuotesAndCommas) {
     EXPECT_EQ(input.names(3), "'");
 }
 
+TEST(TemporaryLines, HoldAnyLabelAsOneName) {
+    Problem problem;
+    problem.n = 4;
+    problem.columnLabel(1) = "X5',6', high";
+    problem.columnLabel(2) = " XBoys' ";
+    problem.columnLabel(3) = "X' , '";
+    problem.columnLabel(4) = "X''";
+    const auto lines = temporaryLines(*solverInput(problem));
+    EXPECT_EQ(lines.at(2), "'5\u2019,6\u2019, high','Boys'','\u2019 , '',''''");
+    const SolverInput input = readTemporaryLines(lines);
+    EXPECT_EQ(input.names(1), "5\u2019,6\u2019, high");
+    EXPECT_EQ(input.names(2), "Boys'");
+    EXPECT_EQ(input.names(3), "\u2019 , '");
+    EXPECT_EQ(input.names(4), "''");
+}
+
 TEST(TemporaryLines, MayLackTheLastLineWithoutIntegers) {
     const SolverInput input =
         readTemporaryLines({"1", "1,1,1,0,0", " 'a' ", " 2 ", "3", "1", "4", "0, 1E+30", "0"});

@@ -132,5 +132,32 @@ TEST(CheapestPlan, ReportsACostBeyondTheRange) {
     EXPECT_EQ(errorOf(problemOf({2}, {2}, {{1.7E+308}})), ErrorNumber::Overflow);
 }
 
+TEST(CheapestPlan, ReportsAReducedCostBeyondTheRangeInAnyCell) {
+    constexpr double huge = 1.5E+308;
+    for (std::size_t row = 0; row < 3; ++row)
+        for (std::size_t col = 0; col < 3; ++col) {
+            // Nothing is shipped where it would cost so much: only its reduced cost leaves the range.
+            std::vector<Row> costs(3, Row(3, 0));
+            costs[row][col] = huge;
+            EXPECT_EQ(errorOf(problemOf({0, 0, 0}, {0, 0, 0}, costs)), ErrorNumber::CancelSelected);
+            costs[row][(col + 1) % 3] = -huge;
+            EXPECT_EQ(errorOf(problemOf({0, 0, 0}, {0, 0, 0}, costs)), ErrorNumber::Overflow)
+                << row << ' ' << col;
+        }
+}
+
+TEST(Balanced, GivesTheExtraRowOrColumnNoCostWhateverLiesBeyondTheProblem) {
+    for (const bool surplus : {true, false}) {
+        Problem problem = surplus ? problemOf({8, 7}, {5, 4}, {{2, 3}, {1, 6}})
+                                  : problemOf({5, 4}, {8, 7}, {{2, 3}, {1, 6}});
+        for (int place = 1; place <= 3; ++place) problem.cost(3, place) = problem.cost(place, 3) = 99;
+        const Tableau tableau = balanced(problem);
+        EXPECT_EQ(tableau.rows, surplus ? 2 : 3);
+        EXPECT_EQ(tableau.cols, surplus ? 3 : 2);
+        for (int place = 1; place <= 2; ++place)
+            EXPECT_EQ(surplus ? tableau.reduced(place, 3) : tableau.reduced(3, place), 0) << place;
+    }
+}
+
 } // namespace
 } // namespace vantore::tranlp

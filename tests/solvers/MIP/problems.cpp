@@ -5,8 +5,6 @@
 #include <stdexcept>
 
 #include "shell/base/number_text.h"
-#include "shell/base/text.h"
-#include "solvers/MIP/progress.h"
 #include "solvers/MIP/report.h"
 #include "solvers/MIP/solve.h"
 
@@ -64,15 +62,12 @@ SolverInput marketSplit() {
 }
 
 std::vector<std::string> reportLines(const SolverInput& input) {
-    Progress progress;
-    const Limits limits;
-    solve(input, limits, progress);
-    return report(input, progress.outcome(), limits).lines();
+    return report(input, solve(input, usualLimits), usualLimits).lines();
 }
 
-double figure(const std::vector<std::string>& lines, const std::string& label) {
+double figureOf(const std::vector<std::string>& lines, const std::string& label) {
     for (const std::string& line : lines)
-        if (line.starts_with(label + "  ")) return val(replaced(line.substr(label.size()), ",", ""));
+        if (line.starts_with(label + "  ")) return val(line.substr(label.size()));
     throw std::runtime_error("no line " + label);
 }
 

@@ -30,6 +30,6 @@ miprog::SolverInput marketSplit();
 
 /// The lines of a report, and the figure behind a label of its summary.
 std::vector<std::string> reportLines(const miprog::SolverInput& input);
-double figure(const std::vector<std::string>& lines, const std::string& label);
+double figureOf(const std::vector<std::string>& lines, const std::string& label);
 
 } // namespace vantore::mip::tests

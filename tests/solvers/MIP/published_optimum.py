@@ -14,7 +14,7 @@ import sys
 import tempfile
 
 SENSES = {"<=": 1, "=": 0, ">=": -1}
-TIME_LIMIT = 120  # seconds
+TIME_LIMIT = 150  # seconds
 
 
 def temporary_lines(problem):
@@ -46,8 +46,10 @@ def figure(lines, label):
 
 
 def values(lines, count):
+    """The column "Value", which ends where its heading does."""
     start = lines.index("VARIABLES") + 3
-    return [float(line[32:46].replace(",", "")) for line in lines[start:start + count]]
+    end = lines[start - 1].index(" Value") + len(" Value")
+    return [float(line[:end].split()[-1]) for line in lines[start:start + count]]
 
 
 def faults(problem, lines):

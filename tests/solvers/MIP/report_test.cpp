@@ -1,9 +1,10 @@
-#include <gtest/gtest.h>
+#include "solvers/MIP/report.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 
 #include "shell/base/text.h"
-#include "solvers/MIP/report.h"
+#include "solvers/MIP/solve.h"
 #include "tests/solvers/MIP/problems.h"
 
 namespace vantore::mip::tests {
@@ -13,167 +14,277 @@ using miprog::Bounds;
 using miprog::SolverInput;
 using Lines = std::vector<std::string>;
 
-std::string column(double value) {
-    return columnText(value, 14);
+/// The lines of a report up to the first empty one, as one text.
+std::string head(const Lines& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        if (line.empty()) break;
+        text += (text.empty() ? "" : " ") + line;
+    }
+    return text;
 }
 
-TEST(ColumnText, ShowsFourDecimalsWhereThereIsRoom) {
-    EXPECT_EQ(column(0), "0.0000");
-    EXPECT_EQ(column(-0.0), "0.0000");
-    EXPECT_EQ(column(3.5), "3.5000");
-    EXPECT_EQ(column(-1234.56789), "-1,234.5679");
-    EXPECT_EQ(column(9999999.9999), "9,999,999.9999");
-    EXPECT_EQ(column(.0012), "0.0012");
+std::string whole(const Lines& lines) {
+    std::string text;
+    for (const std::string& line : lines) text += (text.empty() ? "" : " ") + line;
+    return text;
 }
 
-TEST(ColumnText, LeavesOffDecimalsBeforeItUsesAnExponent) {
-    EXPECT_EQ(column(12345678.125), "12,345,678.13");
-    EXPECT_EQ(column(-123456789), "-123,456,789");
-    EXPECT_EQ(column(12345678901), "12,345,678,901");
-    EXPECT_EQ(column(1234567890123), "1234567890123");
-    EXPECT_EQ(column(123456789012345678.), "1.23456789E+17");
-    EXPECT_EQ(column(-1.23456789E+200), "-1.234568E+200");
+bool says(const Lines& lines, const std::string& sentence) {
+    return whole(lines).find(sentence) != std::string::npos;
 }
 
-TEST(ColumnText, ShowsTinyNumbersWithAnExponent) {
-    EXPECT_EQ(column(1E-07), "1E-07");
-    EXPECT_EQ(column(-1.23456789E-09), "-1.235E-09");
-    EXPECT_EQ(column(1.23456789E-300), "1.235E-300");
+/// 3 v1 + 2 v2 <= 12, v1 + 4 v2 <= 16, and v3 of 0 or 1 with v2 + v3 >= 3.
+ProblemText crates() {
+    return {.objective = {5, 4, -1},
+            .rows = {{3, 2, 0}, {1, 4, 0}, {0, 1, 1}},
+            .relations = "<<>",
+            .rhs = {12, 16, 3},
+            .integers = {1, 3},
+            .bounds = {Bounds{}, Bounds{}, Bounds{0, 1}}};
 }
 
-TEST(ColumnText, NeverIsWiderThanItsColumn) {
-    for (const double mantissa : {1.0, -1.0, 9.99999999999, -9.99999999999, 1.2345678901234567, -5.5})
-        for (double power = 1E-300; power < 1E+300; power *= 10)
-            ASSERT_LE(column(mantissa * power).size(), 14U) << mantissa * power;
+TEST(Report, IsADocument) {
+    Lines report = reportLines(crates().input());
+    const Lines wanted = {"STATUS: OPTIMAL",
+                          "The solution below is the best that there is: this is proved in exact",
+                          "arithmetic.",
+                          "",
+                          "Objective                                          Maximize",
+                          "Objective value                                          22",
+                          "Best possible objective value                            22",
+                          "Gap between the two                                       0",
+                          "Gap in per cent of the objective value                  0 %",
+                          "",
+                          "VARIABLES",
+                          "                              Relaxed    Objective  Reduced",
+                          "No.  Name  Type        Value    value  coefficient     cost",
+                          "  1  v1    integer         2      1.6            5        0",
+                          "  2  v2    continuous      3      3.6            4        0",
+                          "  3  v3    0-1             0        0           -1       -1",
+                          "",
+                          "CONSTRAINTS",
+                          "                                        Dual",
+                          "No.  Left side      Right side  Slack  value",
+                          "  1         12  <=          12      0    1.6",
+                          "  2         14  <=          16      2     .2",
+                          "  3          3  >=           3      0      0",
+                          "",
+                          "CONTINUOUS RELAXATION",
+                          "Objective value of the relaxation                      22.4",
+                          "This is the optimum when the integer variables may have fractions, proved in",
+                          "exact arithmetic.",
+                          "Reduced costs and dual values belong to it: the change of its objective",
+                          "value for one unit more of the variable or of the right side, so long as the",
+                          "same bounds and constraints bind.",
+                          "",
+                          "SEARCH AND PROOF"};
+    ASSERT_GE(report.size(), wanted.size());
+    report.resize(wanted.size());
+    EXPECT_EQ(report, wanted);
 }
 
-/// Whether the character at each of these positions (from 1) ends a word: what stands right of a column's end
-/// is a blank or the end of the line.
-bool endsAt(const std::string& line, const std::vector<std::size_t>& ends) {
-    return std::all_of(ends.begin(), ends.end(), [&line](std::size_t end) {
-        return line.size() >= end && line[end - 1] != ' ' && (line.size() == end || line[end] == ' ');
-    });
+TEST(Report, TellsOfSearchAndProof) {
+    Outcome outcome = solve(crates().input(), usualLimits);
+    outcome.search.nodes = 12;
+    outcome.search.iterations = 345;
+    outcome.proofNodes = 67;
+    outcome.used = {.25, 1.26, 1234.5};
+    Lines report = mip::report(crates().input(), outcome, {20, 60, 90}).lines();
+    report.erase(report.begin(), std::find(report.begin(), report.end(), "SEARCH AND PROOF"));
+    EXPECT_EQ(report,
+              (Lines{"SEARCH AND PROOF", "Nodes of the search                                      12",
+                     "Simplex iterations of the search                        345",
+                     "Nodes of the proof                                       67",
+                     "Seconds without integer requirements                   0.25",
+                     "Seconds of the search                                  1.26",
+                     "Seconds of the proof                               1,234.50",
+                     "Limits of the three in seconds                   20, 60, 90",
+                     "The solution was held against the problem in exact arithmetic, all numbers",
+                     "taken as the decimals that they are: it keeps every bound, constraint and",
+                     "integer requirement."}));
 }
 
-Lines tableAt(const Lines& report, const std::string& title, std::size_t rows) {
-    const auto heading = std::find(report.begin(), report.end(), title);
-    if (report.end() - heading < static_cast<std::ptrdiff_t>(rows) + 3) return {};
-    return {heading + 3, heading + 3 + static_cast<std::ptrdiff_t>(rows)};
+// Each sentence, as true as the outcome that it is printed for
+
+TEST(Report, SaysProvedOfAProof) {
+    const SolverInput input = crates().input();
+    EXPECT_EQ(
+        head(reportLines(input)),
+        "STATUS: OPTIMAL The solution below is the best that there is: this is proved in exact arithmetic.");
 }
 
-/// Values from the smallest to the largest that can stand in a problem, each its variable's upper bound.
-SolverInput ofAllSizes() {
+TEST(Report, SaysWhatContradictsEachOther) {
+    ProblemText text{.objective = {1}, .rows = {{1}, {1}}, .relations = "<>", .rhs = {1, 2}};
+    const std::string none = "STATUS: INFEASIBLE No solution satisfies all constraints, bounds and integer "
+                             "requirements: this is proved in exact arithmetic. ";
+    const std::string conflict =
+        "Together with the bounds of the variables these constraints contradict each other: 1, 2.";
+    EXPECT_EQ(head(reportLines(text.input())), none + conflict);
+    text.integers = {1};
+    EXPECT_EQ(head(reportLines(text.input())),
+              none + "Nor is there one when the integer variables may have fractions. " + conflict);
+    text.bounds = {Bounds{.5, 7}};
+    EXPECT_EQ(head(reportLines(text.input())), none +
+                                                   "Nor is there one when the integer variables may have "
+                                                   "fractions, their bounds taken to whole numbers. " +
+                                                   conflict);
+    text = {.objective = {1}, .rows = {{2}}, .relations = "=", .rhs = {3}, .integers = {1}};
+    EXPECT_EQ(head(reportLines(text.input())),
+              none + "There are solutions when the integer variables may have fractions.");
+    EXPECT_TRUE(says(reportLines(text.input()), "Relaxed"));
+    text = {.objective = {1}, .integers = {1}, .bounds = {Bounds{.25, .75}}};
+    EXPECT_EQ(head(reportLines(text.input())),
+              none + "No whole number is within the bounds of variable 1 (v1).");
+}
+
+TEST(Report, SaysWhatChangesWithoutLimit) {
+    ProblemText text{
+        .objective = {1, 1}, .rows = {{1, -1}}, .relations = "<", .rhs = {3.5}, .integers = {1, 2}};
+    EXPECT_EQ(head(reportLines(text.input())),
+              "STATUS: UNBOUNDED The objective value can be improved without limit, a constraint is missing: "
+              "this is "
+              "proved in exact arithmetic. Variables that change without limit on the way: 1, 2.");
+    text.rows = {{2, -2}};
+    text.relations = "=";
+    text.rhs = {1};
+    EXPECT_EQ(
+        head(reportLines(text.input())),
+        "STATUS: INFEASIBLE No solution satisfies all constraints, bounds and integer requirements: this is "
+        "proved in exact arithmetic. There are solutions when the integer variables may have fractions. The "
+        "objective value can be improved without limit when the integer variables may have fractions. "
+        "Variables that change without limit on the way: 1, 2.");
+}
+
+TEST(Report, SaysThatAClaimIsTheLibrarysAlone) {
+    const StageSeconds limits{.relaxation = 20, .search = 20, .proof = 0};
+    const SolverInput input = crates().input();
+    EXPECT_EQ(
+        head(report(input, solve(input, limits), limits).lines()),
+        "STATUS: OPTIMAL WITHIN TOLERANCES The search found no better solution than the one below within the "
+        "tolerances of its library. That there is none is not proved. The proof ran into its time limit of 0 "
+        "seconds.");
+    const SolverInput none =
+        ProblemText{.objective = {1}, .rows = {{2}}, .relations = "=", .rhs = {3}, .integers = {1}}.input();
+    EXPECT_EQ(
+        head(report(none, solve(none, limits), limits).lines()),
+        "STATUS: NO SOLUTION FOUND The search found no solution within the tolerances of its library. That "
+        "there is none is not proved. The proof ran into its time limit of 0 seconds.");
+}
+
+TEST(Report, SaysWhichStageWasHaltedAndWhy) {
+    const SolverInput input = ProblemText{.objective = {1}}.input();
+    Outcome outcome;
+    const auto saidOf = [&](Stage stage, watch::End cause) {
+        outcome.halt = Halt{stage, cause};
+        return head(report(input, outcome, {11, 22, 33}).lines());
+    };
+    const std::string none = " No solution had been found until then; there may be one.";
+    EXPECT_EQ(
+        saidOf(Stage::Relaxation, watch::End::TimeLimit),
+        "STATUS: STOPPED The solution without integer requirements ran into its time limit of 11 seconds." +
+            none);
+    EXPECT_EQ(saidOf(Stage::Search, watch::End::TimeLimit),
+              "STATUS: STOPPED The search ran into its time limit of 22 seconds." + none);
+    EXPECT_EQ(saidOf(Stage::Proof, watch::End::TimeLimit),
+              "STATUS: STOPPED The proof ran into its time limit of 33 seconds." + none);
+    EXPECT_EQ(saidOf(Stage::Search, watch::End::Interrupted),
+              "STATUS: STOPPED The search was stopped by the user." + none);
+    EXPECT_EQ(saidOf(Stage::Proof, watch::End::Failed), "STATUS: STOPPED The proof broke down." + none);
+    outcome.solution = Solution{{12}, 12, {}};
+    EXPECT_EQ(saidOf(Stage::Search, watch::End::Interrupted),
+              "STATUS: STOPPED The search was stopped by the user. The best solution found until then is "
+              "given below; "
+              "there may be a better one.");
+}
+
+TEST(Report, SaysWhyThereIsNoProblem) {
+    EXPECT_EQ(whole(reportWithoutProblem("Line 3: no name.").lines()),
+              "STATUS: NOT SOLVED TEMP.DAT can't be read as a problem. Line 3: no name.");
+    EXPECT_EQ(whole(reportBeforehand().lines()),
+              "STATUS: NOT SOLVED The solver was ended before it could report.");
+}
+
+TEST(Report, SaysThatTheRelaxationIsTheProblemWhereAllIsContinuous) {
+    ProblemText text = crates();
+    text.integers = {};
+    const Lines report = reportLines(text.input());
+    EXPECT_TRUE(says(report, "There are no integer variables: the relaxation is the problem itself."));
+    EXPECT_FALSE(says(report, "This is the optimum when"));
+}
+
+TEST(Report, GivesTheGapOfAStoppedSearch) {
+    const SolverInput input =
+        ProblemText{.objective = {1}, .rows = {{1}}, .relations = "<", .rhs = {90}, .integers = {1}}.input();
+    Outcome outcome = solve(input, usualLimits);
+    outcome.status = Status::Stopped;
+    outcome.halt = Halt{};
+    outcome.search.bound = 88;
+    outcome.solution = Solution{{80}, 80, {80}};
+    const auto linesOf = [&] { return report(input, outcome, usualLimits).lines(); };
+    EXPECT_EQ(figureOf(linesOf(), "Best possible objective value"), 90); // what is proved: the relaxation's
+    EXPECT_EQ(figureOf(linesOf(), "Gap between the two"), 10);
+    EXPECT_EQ(figureOf(linesOf(), "Gap in per cent of the objective value"), 12.5);
+    EXPECT_EQ(figureOf(linesOf(), "Best objective value that the search holds possible"), 88);
+    outcome.solution = Solution{{0}, 0, {0}};
+    EXPECT_TRUE(says(linesOf(), "Gap in per cent of the objective value                    -"));
+    outcome.relaxation.reset();
+    EXPECT_FALSE(says(linesOf(), "Best possible"));
+    EXPECT_FALSE(says(linesOf(), "Relaxed"));
+}
+
+TEST(Report, ShowsTypedNumbersAsTyped) {
+    ProblemText text{.objective = {1.00000000000001, -.00000123456789},
+                     .rows = {{123456.789012, 1}},
+                     .relations = "<",
+                     .rhs = {1.5E+20}};
+    text.bounds = {Bounds{0, 7}, Bounds{0, 7}};
+    const Lines report = reportLines(text.input());
+    EXPECT_TRUE(says(report, " 1.00000000000001 "));
+    EXPECT_TRUE(says(report, " -1.23456789E-06 "));
+    EXPECT_TRUE(says(report, " 1.5E+20 "));
+    EXPECT_TRUE(says(report, " 864197.523084 ")); // 7 x 123456.789012
+}
+
+/// The positions where words end in every line: what stands right of a column.
+bool linesUp(const Lines& table, std::size_t columns) {
+    for (std::size_t i = 1; i < table.size(); ++i)
+        if (std::count(table[i].begin(), table[i].end(), '\n') != 0) return false;
+    std::size_t found = 0;
+    for (std::size_t at = 1; at <= table.front().size(); ++at) {
+        const bool end = std::all_of(table.begin(), table.end(), [at](const std::string& line) {
+            return at <= line.size() && line[at - 1] != ' ' && (at == line.size() || line[at] == ' ');
+        });
+        found += end ? 1 : 0;
+    }
+    return found >= columns;
+}
+
+TEST(Report, LinesItsColumnsUpWhateverTheNumbersAndNames) {
     ProblemText text;
     for (const double size : {1E-12, 2.5E-05, .5, 1234.5, 98765432.25, 3E+12, 7E+19}) {
-        text.objective.push_back(size == 7E+19 ? 1E-15 : 1 / size);
+        text.objective.push_back(1 / size);
         text.bounds.push_back({-size, size});
         text.objective.push_back(-1 / size);
         text.bounds.push_back({-size, size});
     }
-    std::vector<double> row(text.objective.size(), 0);
-    for (std::size_t j = 0; j < row.size(); ++j) {
-        row.assign(row.size(), 0);
+    for (std::size_t j = 0; j < text.objective.size(); ++j) {
+        std::vector<double> row(text.objective.size(), 0);
         row[j] = 1;
         text.rows.push_back(row);
         text.relations += '<';
         text.rhs.push_back(9.9E+19);
     }
-    return text.input();
-}
-
-TEST(Report, KeepsItsColumnsWhateverTheNumbers) {
-    const SolverInput input = ofAllSizes();
+    SolverInput input = text.input();
+    input.names = {};
+    for (int j = 1; j <= input.n; ++j) input.names.add(std::string(static_cast<std::size_t>(j), 'x'));
     const Lines report = reportLines(input);
     ASSERT_EQ(report.front(), "STATUS: OPTIMAL");
-    const Lines variables = tableAt(report, "VARIABLES", 14);
-    const Lines constraints = tableAt(report, "CONSTRAINTS", 14);
-    ASSERT_EQ(variables.size(), 14U);
-    ASSERT_EQ(constraints.size(), 14U);
-    for (const std::string& line : variables) EXPECT_TRUE(endsAt(line, {4, 46, 61, 76})) << line;
-    for (const std::string& line : constraints) EXPECT_TRUE(endsAt(line, {4, 20, 40, 58, 76})) << line;
-    for (const std::string& line : report) EXPECT_LE(length(line), 76U) << line;
-}
-
-TEST(Report, IsADocument) {
-    auto text = ProblemText{.objective = {5, 4, 0},
-                            .rows = {{3, 2, 0}, {1, 4, 0}, {0, 1, 1}},
-                            .relations = "<<>",
-                            .rhs = {12, 16, 3},
-                            .integers = {1, 3}};
-    text.bounds = {Bounds{}, Bounds{}, Bounds{0, 1}};
-    text.maximize = true;
-    const Lines report = reportLines(text.input());
-    const Lines wanted = {
-        "STATUS: OPTIMAL",
-        "The solution below is proved to be the best that there is.",
-        "",
-        "Objective                                     Maximize",
-        "Objective value                                22.0000",
-        "Best possible objective value                  22.0000",
-        "Gap between the two                             0.0000",
-        "Gap in per cent of the objective value          0.00 %",
-        "",
-        "VARIABLES",
-        "                                                    Objective        Reduced",
-        " No. Name             Type               Value    coefficient           cost",
-        "   1 v1               integer           2.0000         5.0000         0.0000",
-        "   2 v2               continuous        3.0000         4.0000         0.0000",
-    };
-    ASSERT_GE(report.size(), wanted.size());
-    for (std::size_t i = 0; i < wanted.size(); ++i) EXPECT_EQ(report[i], wanted[i]);
-    EXPECT_EQ(tableAt(report, "VARIABLES", 3).at(2).substr(22, 3), "0-1");
-    const Lines constraints = tableAt(report, "CONSTRAINTS", 3);
-    EXPECT_EQ(constraints.at(0),
-              "   1         12.0000  <=         12.0000            0.0000            1.6000");
-    EXPECT_EQ(constraints.at(1).substr(0, 58), "   2         14.0000  <=         16.0000            2.0000");
-    EXPECT_EQ(constraints.at(2).substr(20, 4), "  >=");
-    EXPECT_EQ(figure(report, "Objective value of the relaxation"), 22.4);
-}
-
-TEST(Report, PutsALongNameOnALineOfItsOwn) {
-    SolverInput input = ProblemText{.objective = {1}, .bounds = {Bounds{0, 2}}}.input();
-    input.names = {};
-    input.names.add("a warehouse in the far north");
-    const Lines report = reportLines(input);
-    const Lines table = tableAt(report, "VARIABLES", 2);
-    EXPECT_EQ(table.at(0), "   1 a warehouse in the far north");
-    EXPECT_TRUE(endsAt(table.at(1), {46, 61, 76})) << table.at(1);
-}
-
-TEST(Report, ShowsNoTablesWithoutASolution) {
-    const auto text = ProblemText{.objective = {1}, .rows = {{1}, {1}}, .relations = "<>", .rhs = {1, 2}};
-    const Lines report = reportLines(text.input());
-    EXPECT_EQ(report.at(0), "STATUS: INFEASIBLE");
-    EXPECT_EQ(report.at(1), "No solution satisfies all constraints and bounds.");
-    EXPECT_EQ(report.at(2), "Together with the bounds of the variables these constraints contradict each");
-    EXPECT_EQ(report.at(3), "other: 1, 2.");
-    EXPECT_EQ(std::count(report.begin(), report.end(), "VARIABLES"), 0);
-}
-
-TEST(Report, TellsWhatStoppedTheSearch) {
-    const SolverInput input = ProblemText{.objective = {1}}.input();
-    Outcome outcome;
-    const auto second = [&] { return report(input, outcome, {}).lines().at(1); };
-    outcome.status = Status::TimeLimit;
-    EXPECT_EQ(second(), "The search was stopped by its time limit of 60 seconds. No solution had been");
-    outcome.status = Status::NodeLimit;
-    EXPECT_EQ(second(), "The search was stopped by its limit of 1,000,000 nodes. No solution had been");
-    outcome.status = Status::Interrupted;
-    EXPECT_EQ(second(), "The search was stopped by the user. No solution had been found until then;");
-    outcome.solution = Solution{12, {12}, {}};
-    EXPECT_EQ(second(), "The search was stopped by the user. The best solution found until then is");
-}
-
-TEST(Report, GivesTheGapOfAStoppedSearch) {
-    const SolverInput input = ProblemText{.objective = {1}}.input();
-    Outcome outcome;
-    outcome.status = Status::TimeLimit;
-    outcome.solution = Solution{80, {80}, {}};
-    outcome.bound = 90;
-    const Lines lines = report(input, outcome, {}).lines();
-    EXPECT_EQ(figure(lines, "Best possible objective value"), 90);
-    EXPECT_EQ(figure(lines, "Gap between the two"), 10);
-    EXPECT_EQ(figure(lines, "Gap in per cent of the objective value"), 12.5);
+    for (const char* title : {"VARIABLES", "CONSTRAINTS"}) {
+        const auto heading = std::find(report.begin(), report.end(), title);
+        ASSERT_GT(report.end() - heading, 16);
+        EXPECT_TRUE(linesUp({heading + 3, heading + 3 + 14}, title[0] == 'V' ? 5U : 5U)) << title;
+    }
 }
 
 } // namespace
