@@ -3,8 +3,8 @@
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-charts-dev
     libqt6opengl6-dev fonts-liberation coinor-libcbc-dev zlib1g-dev libgmp-dev"
 test_packages="python3 python3-simpy3 libgtest-dev libbenchmark-dev liblemon-dev libboost-dev geographiclib-tools
-    coinor-libclp-dev coinor-cbc libglpk-dev clang clang-format libclang-rt-dev xvfb xauth xdotool imagemagick
-    poppler-utils procps"
+    coinor-libclp-dev coinor-cbc libglpk-dev clang clang-format libclang-rt-dev xvfb xauth xdotool x11-utils openbox
+    imagemagick poppler-utils procps"
 
 # Installs those of the named packages that are missing, and says so.
 install_missing() {

@@ -34,7 +34,8 @@ int promptWidth(const QString& text, const QFont& font, int told) {
 } // namespace
 
 DialogWindow::DialogWindow(DialogForm& form, WindowSteps& steps, QWidget* parent, double zoom)
-    : QDialog(parent), form_(form), steps_(steps), zoom_(zoom), prompt_(*new QLabel(this)) {
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      form_(form), steps_(steps), zoom_(zoom), prompt_(*new QLabel(this)) {
     setObjectName(qtText(form.name()));
     setWindowTitle(qtText(form.caption));
     for (const auto& control : form.controls()) {

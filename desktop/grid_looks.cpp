@@ -21,6 +21,14 @@ const QColor unfocusedColour(0x7A, 0x96, 0xB8);
 constexpr int textMargin = 3; // pixels
 constexpr int currentBorder = 2;
 
+/// The frame of the current cell, under its text: a low row leaves no room between them.
+void paintCurrent(QPainter& painter, const QStyleOptionViewItem& option) {
+    const bool focused = option.widget != nullptr && option.widget->hasFocus();
+    painter.setPen(QPen(focused ? currentColour : unfocusedColour, currentBorder, Qt::SolidLine,
+                        Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(option.rect.adjusted(1, 1, -1, -1));
+}
+
 QSize textRoom(const QRect& cell) {
     return cell.size() - QSize(2 * textMargin, 1);
 }
@@ -29,10 +37,9 @@ QSize textRoom(const QRect& cell) {
 
 QPalette gridPalette() {
     QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Base, emptyColour); // where there are no cells
     palette.setColor(QPalette::Highlight, blockColour);
     palette.setColor(QPalette::HighlightedText, Qt::black);
-    palette.setColor(QPalette::Window, emptyColour);
     return palette;
 }
 
@@ -88,19 +95,15 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool current = index.row() + 1 == grid_.row() && index.column() + 1 == grid_.col();
     const bool marked = option.state.testFlag(QStyle::State_Selected) && !current;
     painter->fillRect(option.rect, marked ? blockColour : QColor(Qt::white));
-    const QString text = index.data().toString();
-    const QFontMetricsF metrics(option.font);
+    if (current) paintCurrent(*painter, option);
     const QRect room = option.rect.adjusted(textMargin, 0, -textMargin, 0);
     const bool enabled = option.state.testFlag(QStyle::State_Enabled);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text));
-    painter->drawText(room, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
-                      metrics.elidedText(text, current ? Qt::ElideLeft : Qt::ElideRight, room.width()));
-    if (!current) return;
-    const bool focused = option.widget != nullptr && option.widget->hasFocus();
-    painter->setPen(QPen(focused ? currentColour : unfocusedColour, currentBorder, Qt::SolidLine,
-                         Qt::SquareCap, Qt::MiterJoin));
-    painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+    painter->drawText(
+        room, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
+        QFontMetricsF(option.font)
+            .elidedText(index.data().toString(), current ? Qt::ElideLeft : Qt::ElideRight, room.width()));
 }
 
 bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

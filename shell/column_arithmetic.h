@@ -15,7 +15,8 @@ namespace vantore {
 struct ArithmeticWording {
     Message oneColumn = {"Highlight only one column.", ""};
     Message notApplicable = {"Column arithmetic does not apply to this column.", ""};
-    std::optional<Message> highlighted = {}; ///< a question in place of the first test, where a module asks it
+    std::optional<Message> highlighted =
+        {}; ///< a question in place of the first test, where a module asks it
     std::string menuTitle = "Selections for Column Arithmetic";
     std::string menuDefault = "Enter a value";
     std::array<std::string, 4> valueTitles = {

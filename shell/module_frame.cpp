@@ -426,7 +426,7 @@ class ModuleFrame::OnPaper {
 
 void ModuleFrame::printWindow() {
     try {
-        PrintJob job{.title = wording_.name};
+        PrintJob job{.title = wording_.name + (view() == View::Plot ? " plot" : " report")};
         printPictureToFitPage(job, suite().platform.printer, captureClient(suite().platform.display, *this));
         print(job);
     } catch (const RuntimeError&) {

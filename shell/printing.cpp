@@ -15,8 +15,8 @@ void printOn(PrintJob& job, const PrintLines& page) {
 
 } // namespace
 
-PrintJob reportJob(const std::string& title, const std::vector<std::string>& lines) {
-    PrintJob job{.title = title};
+PrintJob reportJob(const std::string& module, const std::vector<std::string>& lines) {
+    PrintJob job{.title = module + " report"};
     bool first = true;
     for (const std::string& line : lines) {
         job.print(line, first ? reportTitleFont : reportFont);
@@ -25,8 +25,9 @@ PrintJob reportJob(const std::string& title, const std::vector<std::string>& lin
     return job;
 }
 
-PrintJob dataJob(const std::string& title, const std::vector<std::string>& headings, const PrintLines& page) {
-    PrintJob job{.title = title};
+PrintJob dataJob(const std::string& module, const std::vector<std::string>& headings,
+                 const PrintLines& page) {
+    PrintJob job{.title = module + " data"};
     job.print("", dataFont);
     for (const std::string& heading : headings) job.print(heading, dataTitleFont);
     job.print("", dataFont);
@@ -34,12 +35,12 @@ PrintJob dataJob(const std::string& title, const std::vector<std::string>& headi
     return job;
 }
 
-PrintJob dataJob(const std::string& title, const std::string& heading, const PrintLines& page) {
-    return dataJob(title, std::vector<std::string>{heading}, page);
+PrintJob dataJob(const std::string& module, const std::string& heading, const PrintLines& page) {
+    return dataJob(module, std::vector<std::string>{heading}, page);
 }
 
-PrintJob plainJob(const std::string& title, const PrintLines& page) {
-    PrintJob job{.title = title};
+PrintJob plainJob(const std::string& module, const PrintLines& page) {
+    PrintJob job{.title = module + " data"};
     printOn(job, page);
     return job;
 }

@@ -9,10 +9,10 @@
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
-#include "simulator/SCSIM/SCSim.h"
 #include "routing/Distance/Distance.h"
 #include "routing/ROUTE/ROUTE.h"
 #include "routing/ROUTESEQ/ROUTESEQ.h"
+#include "simulator/SCSIM/SCSim.h"
 
 namespace vantore {
 

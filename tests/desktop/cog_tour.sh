@@ -49,8 +49,10 @@ expect_window "COG - $io/COGT.dat"
 shot 06-report
 keys alt+p
 answer COG Return
-print_to "$io/report.pdf" 07-print
-[ "$(pdfimages -list "$io/report.pdf" | grep -c image)" -ge 1 ] || fail "no picture in report.pdf"
+print_to "$io/report.pdf" 'COG report' 07-print
+holds "$io/report.pdf.txt" 'EXACT CENTER-OF-GRAVITY METHOD RESULTS'
+holds "$io/report.pdf.txt" 'Page 1 of 1'
+no_pictures "$io/report.pdf"
 
 # The plot, with the points' numbers.
 expect_window "COG - $io/COGT.dat"
@@ -60,13 +62,15 @@ expect_window "COG - $io/COGT.dat"
 shot 08-plot
 keys alt+p
 answer COG alt+y
-print_to "$io/plot.pdf"
+print_to "$io/plot.pdf" 'COG plot'
+holds "$io/plot.pdf.txt" 'LOCATION OF POINTS'
+no_pictures "$io/plot.pdf"
 expect_window "COG - $io/COGT.dat"
 keys alt+c
 
 # The data, printed with their texts.
 keys alt+r
-print_to "$io/data.pdf" 09-print-data
+print_to "$io/data.pdf" 'COG data' 09-print-data
 holds "$io/data.pdf.txt" 'EXACT CENTER-OF-GRAVITY METHOD RESULTS'
 holds "$io/data.pdf.txt" 'Cranmer'
 grep -Eq 'Borrow +8.00 +4.00 +2,500 +.0450' "$io/data.pdf.txt" || fail "no row of Borrow in data.pdf"
@@ -80,6 +84,7 @@ keys Right
 text 7
 keys alt+v
 expect_window 'Save center-of-gravity data'
+keys ctrl+a
 text COGNEW.dat
 keys Return
 expect_window "COG - $io/COGNEW.dat"
@@ -91,11 +96,13 @@ shot 10-saved
 # The same name again is asked about, and kept on No.
 keys alt+v
 expect_window 'Save center-of-gravity data'
+keys ctrl+a
 text COGT.dat
 keys Return
-sleep .5
+expect_no_keyboard 'Save center-of-gravity data'
 shot 11-replace
 keys alt+n
+expect_window 'Save center-of-gravity data'
 keys Escape
 expect_window "COG - $io/COGNEW.dat"
 holds "$io/COGT.dat" '"Borrow",8,4,2500,.04'

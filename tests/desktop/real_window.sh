@@ -1,5 +1,5 @@
-# Helpers for tests in a real window: a display of their own, keys and clicks as a user gives them, and what is
-# to be seen. Sourced.
+# Helpers for tests in a real window: a display and a window manager of their own, keys and clicks as a user gives
+# them, and what is to be seen. Nothing sleeps for luck: each step waits for the state that it needs. Sourced.
 
 # begin PROGRAM WORK WIDTHxHEIGHT FACTOR: a display, an install folder and the program.
 begin() {
@@ -14,6 +14,7 @@ begin() {
         >"$install/VANTORE.DRV"
     trap end EXIT
     start_display
+    start_window_manager
     export QT_SCALE_FACTOR=$factor LC_ALL=C.UTF-8 HOME=$work
     unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 }
@@ -34,9 +35,24 @@ start_display() {
     fail "no display could be started"
 }
 
+# A window manager that frames windows, gives new ones the keyboard, and has no keys of its own.
+start_window_manager() {
+    cat >"$work/openbox.xml" <<'XML'
+<?xml version="1.0"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew><focusLast>yes</focusLast><followMouse>no</followMouse></focus>
+  <keyboard></keyboard>
+  <mouse><context name="Client"><mousebind button="Left" action="Press"><action name="Focus"/></mousebind></context></mouse>
+</openbox_config>
+XML
+    openbox --sm-disable --config-file "$work/openbox.xml" 2>"$work/openbox.log" &
+    manager=$!
+    await "the window manager" xdotool get_num_desktops
+}
+
 # Ends what was started, the program before its display.
 end() {
-    for process in "${vantore:-}" "${server:-}"; do
+    for process in "${vantore:-}" "${manager:-}" "${server:-}"; do
         [ -z "$process" ] && continue
         kill "$process" 2>/dev/null || true
         wait "$process" 2>/dev/null || true
@@ -78,13 +94,15 @@ has_keyboard() { [ "$(xdotool getwindowfocus)" = "$(window_named "$1")" ]; }
 expect_window() {
     await "the window '$1'" has_window "$1"
     await "the keyboard in '$1'" has_keyboard "$1"
-    sleep .2
 }
+
+expect_no_keyboard() { await "another window than '$1' in use" lost_keyboard "$1"; }
+lost_keyboard() { ! has_keyboard "$1"; }
 
 expect_no_window() { await "the end of '$1'" no_window "$1"; }
 
-keys() { xdotool key --delay 40 "$@" && sleep .15; }
-text() { xdotool type --delay 25 "$1" && sleep .15; }
+keys() { xdotool key --delay 40 "$@"; }
+text() { xdotool type --delay 25 "$1"; }
 
 # answer TITLE KEYS...: the next dialog with that title, which then goes away.
 answer() {
@@ -96,43 +114,69 @@ answer() {
 }
 gone() { ! xdotool search --onlyvisible --name '.*' | grep -qx "$1"; }
 
-# click LEFT TOP: a click at a place in twips of the 800x600 design.
+# click LEFT TOP: a click at a place in twips of the 800x600 design of the window with the keyboard. The launcher's
+# window is as large as the screen; framed, it is drawn smaller.
 click() {
-    x=$(awk "BEGIN { print int($1 / 15 * $width / 800) }")
-    y=$(awk "BEGIN { print int($2 / 15 * $height / 600) }")
-    xdotool mousemove "$x" "$y" click 1
-    sleep .2
+    window=$(xdotool getactivewindow)
+    zoom=1
+    if [ "$(xdotool getwindowname "$window")" = VANTORE ]; then
+        eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
+        zoom=$(awk "BEGIN { x = $WIDTH / $width; y = $HEIGHT / $height; print x < y ? x : y }")
+    fi
+    x=$(awk "BEGIN { print int($1 / 15 * $width / 800 * $zoom) }")
+    y=$(awk "BEGIN { print int($2 / 15 * $height / 600 * $zoom) }")
+    xdotool mousemove --sync --window "$window" "$x" "$y" click 1
 }
 
-# shot NAME: keeps a picture of the screen, which must show more than a few colours.
+# shot NAME: keeps a picture of the screen once it is still; it must show more than a few colours.
 shot() {
-    import -window root "$work/shots/$1.png"
-    colours=$(identify -format %k "$work/shots/$1.png")
-    [ "$colours" -gt 20 ] || fail "the screen $1 is blank ($colours colours)"
+    await "a picture of $1" still "$work/shots/$1.png"
+}
+still() {
+    import -window root "$1"
+    import -window root "$1.next.png"
+    [ "$(identify -format %k "$1")" -gt 20 ] && cmp -s "$1" "$1.next.png"
+    unchanged=$?
+    rm "$1.next.png"
+    return $unchanged
 }
 
 # on_screen TITLE: the whole window lies on the screen.
-on_screen() {
-    eval "$(xdotool getwindowgeometry --shell "$(window_named "$1")" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
-    [ "$X" -ge 0 ] && [ "$Y" -ge 0 ] && [ $((X + WIDTH)) -le "$width" ] && [ $((Y + HEIGHT)) -le "$height" ] ||
-        fail "the window '$1' at $X,$Y of ${WIDTH}x$HEIGHT reaches beyond the screen"
+on_screen() { await "the whole window '$1' on the screen" lies_on_screen "$1"; }
+lies_on_screen() {
+    eval "$(xwininfo -id "$(window_named "$1")" | awk '
+        /Absolute upper-left X/ { print "X=" $4 } /Absolute upper-left Y/ { print "Y=" $4 }
+        /Width:/ { print "WIDTH=" $2 } /Height:/ { print "HEIGHT=" $2 }')"
+    [ "$X" -ge 0 ] && [ "$Y" -ge 0 ] && [ $((X + WIDTH)) -le "$width" ] && [ $((Y + HEIGHT)) -le "$height" ]
 }
 
 # holds FILE TEXT: the file holds the text.
 holds() {
-    await "the file $1" test -s "$1"
-    grep -qF -- "$2" "$1" || { cat "$1" >&2; fail "$1 doesn't hold: $2"; }
+    for _ in $(seq 200); do
+        if grep -qsF -- "$2" "$1"; then return 0; fi
+        sleep .1
+    done
+    cat "$1" >&2
+    fail "$1 doesn't hold: $2"
 }
 
-# print_to FILE: the print window, which prints into that PDF file.
+# print_to FILE TITLE [SHOT]: the preview of that title, which then prints into that PDF file.
 print_to() {
-    expect_window 'Print - COG'
-    [ -z "${2:-}" ] || shot "$2"
-    keys alt+t End
+    expect_window "Print - $2"
+    [ -z "${3:-}" ] || shot "$3"
+    keys ctrl+p
+    expect_window Print
     keys alt+f ctrl+a
     text "$1"
-    keys alt+p
-    expect_no_window 'Print - COG'
-    await "the file $1" test -s "$1"
+    keys Return
+    expect_no_window Print
+    expect_no_window "Print - $2"
+    await "the end of $1" whole_pdf "$1"
     pdftotext -layout "$1" "$1.txt"
+}
+whole_pdf() { tail -c 8 "$1" | grep -q EOF; }
+
+# no_pictures FILE: the PDF file is made of texts and lines alone.
+no_pictures() {
+    [ "$(pdfimages -list "$1" | grep -c image)" -le 0 ] || fail "there is a picture in $1"
 }
