@@ -13,6 +13,7 @@ TEST(Decoded, SkipsAByteOrderMark) {
 
 TEST(Decoded, ReadsWhatIsNoUtf8AsWindows1252) {
     EXPECT_EQ(decoded("M\xFCnster \x80"), "M\xC3\xBCnster \xE2\x82\xAC");
+    EXPECT_EQ(decoded("\x7F\x80\x81\x9F\xA0\xFF"), "\x7F\u20AC\u0081\u0178\u00A0\u00FF");
     EXPECT_EQ(decoded("M\xC3\xBCnster"), "M\xC3\xBCnster");
 }
 
