@@ -3,6 +3,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "shell/base/text.h"
+#include "shell/base/text_file.h"
 #include "shell/folder_screen.h"
 #include "shell/setup_screen.h"
 #include "tests/support/form_faults.h"

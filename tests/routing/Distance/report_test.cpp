@@ -36,12 +36,12 @@ Problem randomProblem(std::mt19937& random, CoordinateType type) {
         return std::uniform_real_distribution<double>(-most, most)(random);
     };
     const bool earth = type == CoordinateType::LatitudeLongitude;
-    const double size = earth ? 1 : std::pow(10, 1 + random() % 6);
+    const double size = earth ? 1 : std::pow(10, static_cast<int>(1 + random() % 6));
     return {.type = type,
             .dimension = random() % 2 == 0 ? Dimension::Miles : Dimension::Kilometers,
             .origin = {within(80) * size, within(85) * size},
             .destination = {within(80) * size, within(85) * size},
-            .circuityFactor = 1 + random() % 50 / 100.0,
+            .circuityFactor = 1 + static_cast<double>(random() % 50) / 100,
             .mapFactor = earth ? 1 : within(10)};
 }
 
