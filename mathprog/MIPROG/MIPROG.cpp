@@ -68,6 +68,7 @@ void MIPROG::addFields() {
     txtConLabel = &addField(left, "txtConLabel", "Constraint label:");
     txtConLabel->tip = "Label of the selected constraint";
     txtVarLabel = &addField(right, "txtVarLabel", "Variable label:");
+    txtConLabel->result = txtVarLabel->result = true; // the headings are the grid's
     txtVarLabel->tip = "Label of the selected variable. The solver's report leaves off its first character.";
 }
 

@@ -52,6 +52,7 @@ void TRANLP::addFields() {
     right.boxWidth = 2940;
     txtRowLabel = &addField(left, "txtRowLabel", "Row label");
     txtColLabel = &addField(right, "txtColLabel", "Column label");
+    txtRowLabel->result = txtColLabel->result = true; // the headings are the grid's
 }
 
 void TRANLP::addGrids() {

@@ -43,14 +43,19 @@ fs::path folderOf(const fs::path& path) {
     return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-/// A superuser may write anything; that the mode says otherwise is somebody's wish all the same.
 bool isWriteProtected(const struct stat& status) {
     const mode_t own = status.st_uid == geteuid() ? S_IWUSR : S_IWUSR | S_IWGRP | S_IWOTH;
     return (status.st_mode & own) == 0;
 }
 
-void requireWritable(const fs::path& path, const struct stat& status) {
-    if (isWriteProtected(status)) throw RuntimeError(ErrorNumber::PermissionDenied);
+/// A superuser may write anything; that the mode of the file or of its folder says otherwise is somebody's
+/// wish all the same. Where both say so nobody has wished it for this file: it lies in a copy of a read-only
+/// tree.
+bool isMeantToStay(const struct stat& file, const struct stat& folder) {
+    return isWriteProtected(file) != isWriteProtected(folder);
+}
+
+void requireWritable(const fs::path& path) {
     if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) throw fileError(errno, path);
 }
 
@@ -146,8 +151,9 @@ void replaceFile(const fs::path& path, std::string_view content) {
     const auto old = statusOf(target);
     if (old && !S_ISREG(old->st_mode)) throw RuntimeError(ErrorNumber::PathFileAccess);
     if (old) {
-        requireWritable(target, *old);
-        requireWritable(folder, *folderStatus);
+        if (isMeantToStay(*old, *folderStatus)) throw RuntimeError(ErrorNumber::PermissionDenied);
+        requireWritable(target);
+        requireWritable(folder);
     }
     removeStaleTemporaries(target);
     writeBeside(target, old, content);

@@ -30,8 +30,9 @@ void writeLines(const std::filesystem::path& path, const std::vector<std::string
 /// Replaces a file whole or not at all: written beside it, flushed to the disk, then renamed over it with its
 /// owner and mode. When it fails the old file stands as it was and nothing is left beside it; what a writer
 /// that was killed has left there is removed. PermissionDenied where the user may not write, and for an old
-/// file whose mode, or whose folder's mode, forbids it even where the user's rights would pass over that.
-/// PathFileAccess for what is no plain file and for a loop of links.
+/// file whose mode, or whose folder's mode, forbids it even where a superuser's rights would pass over that;
+/// in a tree that is read-only as a whole the rights decide. PathFileAccess for what is no plain file and for
+/// a loop of links.
 void replaceFile(const std::filesystem::path& path, std::string_view content);
 
 } // namespace vantore

@@ -107,8 +107,9 @@ void Form::redo() {
 void Form::putBack(const History::Target& target) {
     for (std::size_t i = 0; i < controls_.size(); ++i)
         if (!std::holds_alternative<std::monostate>(target.state[i])) controls_[i]->restore(target.state[i]);
-    if (target.control != nullptr) reveal(*target.control);
-    restored();
+    if (target.control == nullptr) return restored();
+    reveal(*target.control);
+    run(*target.control, [this] { restored(); });
 }
 
 /// Brings a control's page to the front and gives it the focus.

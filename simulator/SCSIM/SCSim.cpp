@@ -115,14 +115,14 @@ void SCSim::typeInGrid(DataGrid& grid, int code) {
 void SCSim::restored() {
     ModuleFrame::restored();
     dropResults();
-    const Problem problem = channel_.take();
-    uniforms_.reseed(problem.seed);
+    const Problem problem = channel_.takeChoices();
     shownDemand_ = problem.demandSource;
     for (const Level level : allLevels) {
         const LevelData& data = problem.levels(level);
         if (data.forecast != ForecastMethod::None) shownForecast_(level) = data.forecast;
         if (data.policy != Policy::None) shownPolicy_(level) = data.policy;
     }
+    uniforms_.reseed(val(channel_.box("Seed").text()));
 }
 
 // Files

@@ -79,20 +79,15 @@ class ItemsFilled {
     Table<std::string, 1, daysPerYear> demands_;
 };
 
-class ItemsTaken {
+/// Takes the choices alone: no number stands in their way.
+class ChoicesTaken {
   public:
-    explicit ItemsTaken(const ChannelControls& controls) : controls_(controls) {}
+    explicit ChoicesTaken(const ChannelControls& controls) : controls_(controls) {}
 
-    void text(std::string_view name, std::string& value) { value = controls_.box(name).text(); }
-    void number(std::string_view name, double& value) { value = val(controls_.box(name).text()); }
-    void seasonalIndex(int month, double& value) {
-        const auto [row, col] = indexPlace(month);
-        value = val(controls_.indexGrid_->cell(row, col));
-    }
-    void dayDemand(int day, double& value) {
-        const auto [row, col] = demandPlace(day);
-        value = val(controls_.demandGrid_->cell(row, col));
-    }
+    void text(std::string_view, std::string&) {}
+    void number(std::string_view, double&) {}
+    void seasonalIndex(int, double&) {}
+    void dayDemand(int, double&) {}
     template <class Choice>
     void option(std::string_view name, Choice& group, Choice choice) {
         if (controls_.option(name).selected)
@@ -105,8 +100,24 @@ class ItemsTaken {
     void spareNumber(std::string_view, double) {}
     void endLine() {}
 
-  private:
+  protected:
     const ChannelControls& controls_;
+};
+
+class ItemsTaken : public ChoicesTaken {
+  public:
+    using ChoicesTaken::ChoicesTaken;
+
+    void text(std::string_view name, std::string& value) { value = controls_.box(name).text(); }
+    void number(std::string_view name, double& value) { value = val(controls_.box(name).text()); }
+    void seasonalIndex(int month, double& value) {
+        const auto [row, col] = indexPlace(month);
+        value = val(controls_.indexGrid_->cell(row, col));
+    }
+    void dayDemand(int day, double& value) {
+        const auto [row, col] = demandPlace(day);
+        value = val(controls_.demandGrid_->cell(row, col));
+    }
 };
 
 void ChannelControls::setIndexGrid(DataGrid& grid) {
@@ -161,8 +172,17 @@ void ChannelControls::fill(ItemReader& reader) const {
 }
 
 Problem ChannelControls::take() const {
+    return taken<ItemsTaken>();
+}
+
+Problem ChannelControls::takeChoices() const {
+    return taken<ChoicesTaken>();
+}
+
+template <class Items>
+Problem ChannelControls::taken() const {
     Problem problem;
-    ItemsTaken items(*this);
+    Items items(*this);
     passItems(problem, items);
     if (option("optSpecDem").selected) problem.demandSource = DemandSource::Specified;
     return problem;

@@ -38,9 +38,15 @@ class ChannelControls {
     /// The problem as it stands, numbers by `val`.
     Problem take() const;
 
+    /// A problem with its choices alone.
+    Problem takeChoices() const;
+
   private:
     friend class ItemsFilled;
     friend class ItemsTaken;
+
+    template <class Items>
+    Problem taken() const;
 
     static std::string withSuffix(std::string_view name, Level level);
 

@@ -89,7 +89,7 @@ TEST_F(Screens, SetUpNamesTheFolderInItsNotes) {
     EXPECT_EQ(notes.front(), "VANTORE SETUP");
     std::string all;
     for (const std::string& line : notes) all += line + " ";
-    EXPECT_NE(all.find(textOf(session.ioFolder())), std::string::npos);
+    EXPECT_NE(all.find("<io>"), std::string::npos);
     EXPECT_NE(all.find("800x600"), std::string::npos);
 }
 

@@ -89,10 +89,14 @@ void useBox(Form& form, TextBox& box, Random& random) {
 }
 
 void act(Form& form, Random& random) {
-    const auto& controls = form.controls();
-    Control& control = *controls[static_cast<std::size_t>(below(random, static_cast<int>(controls.size())))];
+    std::vector<Control*> reached;
+    for (const auto& control : form.controls())
+        if (Form::accepts(*control)) reached.push_back(control.get());
+    Control& control = *reached[static_cast<std::size_t>(below(random, static_cast<int>(reached.size())))];
     if (auto* grid = dynamic_cast<DataGrid*>(&control)) return useGrid(form, *grid, random);
     if (auto* box = dynamic_cast<TextBox*>(&control)) return useBox(form, *box, random);
+    if (auto* tabs = dynamic_cast<Container*>(&control); tabs != nullptr && !tabs->pages.empty())
+        return form.selectPage(*tabs, below(random, static_cast<int>(tabs->pages.size())));
     const bool presses = dynamic_cast<Choice*>(&control) != nullptr ||
                          std::find(editing.begin(), editing.end(), control.name) != editing.end();
     if (presses) form.press(control);
@@ -109,6 +113,9 @@ TEST_P(UndoOfModule, LeadsBackToTheStartAndForthToTheEnd) {
         Platform parts = user.parts();
         Suite suite(parts, moduleList());
         suite.ioFolder = suite.installFolder = textOf(folder.path()) + "/";
+        // The simulator makes no file for a name that isn't there.
+        if (GetParam() == "SCSIM")
+            std::filesystem::copy_file(VANTORE_SOURCE_FOLDER "/install/SIM01.dat", folder.path() / "NEW.dat");
         Launcher launcher(suite);
         launcher.press(*launcher.moduleButton(GetParam()));
         auto& module = dynamic_cast<ModuleFrame&>(*suite.windows.front());
@@ -117,10 +124,10 @@ TEST_P(UndoOfModule, LeadsBackToTheStartAndForthToTheEnd) {
         if (open == nullptr) open = module.find("OpenF");
         if (open != nullptr) module.press(*open);
         const FormState start = stateOf(module);
-        for (int i = 0; i < 400 && module.view() == View::Data; ++i) act(module, random);
+        for (int i = 0; i < 1000 && module.view() == View::Data; ++i) act(module, random);
         ASSERT_EQ(module.view(), View::Data);
         const FormState end = stateOf(module);
-        EXPECT_NE(start, end) << "seed " << seed;
+        EXPECT_FALSE(start == end) << "seed " << seed;
         int steps = 0;
         for (; module.canUndo(); ++steps) module.undo();
         EXPECT_TRUE(stateOf(module) == start) << "seed " << seed;
