@@ -1,11 +1,10 @@
-#include "desktop/button_views.h"
-
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
 
+#include "desktop/views.h"
 #include "drawing/fonts.h"
 
 namespace vantore {
@@ -45,46 +44,49 @@ int markWidth(const QWidget& parent, QStyle::PixelMetric mark) {
     return parent.style()->pixelMetric(mark, nullptr, &parent) + markGap;
 }
 
+/// Anything that is pressed; `taken` is what a mark beside the caption takes of its width.
+class PressedView : public ControlView {
+  public:
+    PressedView(ViewContext& context, Control& control, QAbstractButton* button, int taken)
+        : ControlView(context, control, button), button_(*button), taken_(taken) {
+        QObject::connect(button, &QAbstractButton::clicked, button, [&context, &control] {
+            context.act([&context, &control] { context.form().press(control); });
+        });
+    }
+
+  protected:
+    void syncContent(const FormLayout& layout) override {
+        const QSize room = button_.size() - QSize(taken_, verticalPadding);
+        const FittedText& shown = fitted(qtText(control().caption), room, Qt::TextShowMnemonic, layout);
+        if (button_.text() != shown.text) button_.setText(shown.text);
+        if (button_.font() != shown.font) button_.setFont(shown.font);
+        const auto* choice = dynamic_cast<const Choice*>(&control());
+        if (choice == nullptr || button_.isChecked() == choice->selected) return;
+        button_.setAutoExclusive(false); // else the toolkit refuses to clear the only selected option
+        button_.setChecked(choice->selected);
+        button_.setAutoExclusive(dynamic_cast<const Option*>(choice) != nullptr);
+    }
+
+  private:
+    QAbstractButton& button_;
+    int taken_; ///< pixels beside the caption
+};
+
 } // namespace
 
-PressedView::PressedView(ViewContext& context, Control& control, QAbstractButton* button, int taken)
-    : ControlView(context, control, button), button_(*button), taken_(taken) {
-    QObject::connect(button, &QAbstractButton::clicked, button, [&context, &control] {
-        context.act([&context, &control] { context.form().press(control); });
-    });
+std::unique_ptr<ControlView> viewOf(ViewContext& context, Button& button, QWidget* parent) {
+    return std::make_unique<PressedView>(context, button, new Pressable<QPushButton>(parent), buttonPadding);
 }
 
-void PressedView::syncContent(const FormLayout& layout) {
-    const QSize room = button_.size() - QSize(taken_, verticalPadding);
-    const FittedText& shown = fitted(qtText(control().caption), room, Qt::TextShowMnemonic, layout);
-    if (button_.text() != shown.text) button_.setText(shown.text);
-    if (button_.font() != shown.font) button_.setFont(shown.font);
+/// The options of a page are one tab stop, whose arrow keys select.
+std::unique_ptr<ControlView> viewOf(ViewContext& context, Option& option, QWidget* parent) {
+    return std::make_unique<PressedView>(context, option, new Pressable<QRadioButton>(parent),
+                                         markWidth(*parent, QStyle::PM_ExclusiveIndicatorWidth));
 }
 
-ButtonView::ButtonView(ViewContext& context, Button& button, QWidget* parent)
-    : PressedView(context, button, new Pressable<QPushButton>(parent), buttonPadding) {}
-
-OptionView::OptionView(ViewContext& context, Option& option, QWidget* parent)
-    : PressedView(context, option, new Pressable<QRadioButton>(parent),
-                  markWidth(*parent, QStyle::PM_ExclusiveIndicatorWidth)),
-      option_(option) {}
-
-void OptionView::syncContent(const FormLayout& layout) {
-    PressedView::syncContent(layout);
-    if (button().isChecked() == option_.selected) return;
-    button().setAutoExclusive(false); // else the toolkit refuses to clear the only one
-    button().setChecked(option_.selected);
-    button().setAutoExclusive(true);
-}
-
-CheckBoxView::CheckBoxView(ViewContext& context, CheckBox& box, QWidget* parent)
-    : PressedView(context, box, new Pressable<QCheckBox>(parent),
-                  markWidth(*parent, QStyle::PM_IndicatorWidth)),
-      box_(box) {}
-
-void CheckBoxView::syncContent(const FormLayout& layout) {
-    PressedView::syncContent(layout);
-    button().setChecked(box_.selected);
+std::unique_ptr<ControlView> viewOf(ViewContext& context, CheckBox& box, QWidget* parent) {
+    return std::make_unique<PressedView>(context, box, new Pressable<QCheckBox>(parent),
+                                         markWidth(*parent, QStyle::PM_IndicatorWidth));
 }
 
 } // namespace vantore

@@ -2,32 +2,17 @@
 
 #include <array>
 
-#include "desktop/button_views.h"
-#include "desktop/container_views.h"
-#include "desktop/drawing_view.h"
-#include "desktop/grid_view.h"
-#include "desktop/label_view.h"
-#include "desktop/list_view.h"
-#include "desktop/picture_view.h"
-#include "desktop/report_view.h"
-#include "desktop/text_box_view.h"
+#include "desktop/views.h"
 #include "drawing/fonts.h"
 
 namespace vantore {
 
 namespace {
 
-template <class Kind, class View>
+template <class Kind>
 std::unique_ptr<ControlView> viewIf(ViewContext& context, Control& control, QWidget* parent) {
     auto* kind = dynamic_cast<Kind*>(&control);
-    return kind == nullptr ? nullptr : std::make_unique<View>(context, *kind, parent);
-}
-
-std::unique_ptr<ControlView> containerView(ViewContext& context, Control& control, QWidget* parent) {
-    auto* container = dynamic_cast<Container*>(&control);
-    if (container == nullptr) return nullptr;
-    if (container->pages.empty()) return std::make_unique<GroupView>(context, *container, parent);
-    return std::make_unique<TabView>(context, *container, parent);
+    return kind == nullptr ? nullptr : viewOf(context, *kind, parent);
 }
 
 QString withoutMnemonic(const std::string& caption) {
@@ -81,12 +66,12 @@ void ControlView::sync(const FormLayout& layout) {
     if (!control_.shown()) return widget_->hide();
     const QPoint origin = widget_->parentWidget()->mapTo(widget_->window(), QPoint(0, 0));
     widget_->setGeometry(place(layout).translated(-origin));
-    widget_->setEnabled(control_.enabled());
+    widget_->setEnabled(enabled());
     syncName();
-    fitting_.result.cut = false;
+    cutText_.clear();
     syncContent(layout);
     const QString tip = qtText(control_.tip);
-    const QString shownTip = fitting_.result.cut ? tipWith(fitting_.text, tip) : tip;
+    const QString shownTip = cutText_.isEmpty() ? tip : tipWith(cutText_, tip);
     if (widget_->toolTip() != shownTip) widget_->setToolTip(shownTip);
     widget_->show();
 }
@@ -104,29 +89,17 @@ QFont ControlView::font(const FormLayout& layout) const {
 const FittedText& ControlView::fitted(const QString& text, QSize room, int flags, const FormLayout& layout) {
     const QFont wanted = font(layout);
     const bool known = fitting_.text == text && fitting_.room == room && fitting_.font == wanted;
-    if (known) {
-        fitting_.result.cut = fitting_.result.text != text;
-    } else {
-        fitting_ = {text, room, wanted, fittedText(text, wanted, room, flags)};
-    }
+    if (!known) fitting_ = {text, room, wanted, fittedText(text, wanted, room, flags)};
+    if (fitting_.result.cut) markCut(text);
     return fitting_.result;
 }
 
 std::unique_ptr<ControlView> makeView(ViewContext& context, Control& control, QWidget* parent) {
     using Maker = std::unique_ptr<ControlView> (*)(ViewContext&, Control&, QWidget*);
     constexpr std::array<Maker, 12> makers = {
-        viewIf<Button, ButtonView>,
-        viewIf<TextBox, TextBoxView>,
-        viewIf<Label, LabelView>,
-        viewIf<DataGrid, GridControlView>,
-        viewIf<Option, OptionView>,
-        viewIf<CheckBox, CheckBoxView>,
-        containerView,
-        viewIf<ListBox, ListView>,
-        viewIf<ReportScreen, ReportView>,
-        viewIf<PictureSurface, DrawingView>,
-        viewIf<Chart, DrawingView>,
-        viewIf<Picture, PictureView>,
+        viewIf<Button>,       viewIf<TextBox>,        viewIf<Label>,     viewIf<DataGrid>,
+        viewIf<Option>,       viewIf<CheckBox>,       viewIf<Container>, viewIf<ListBox>,
+        viewIf<ReportScreen>, viewIf<PictureSurface>, viewIf<Chart>,     viewIf<Picture>,
     };
     for (const Maker make : makers)
         if (auto view = make(context, control, parent)) return view;

@@ -48,6 +48,8 @@ class ControlView {
     /// Shows what is this kind's own. Place and name are up to date; visibility follows.
     virtual void syncContent(const FormLayout& layout) = 0;
 
+    virtual bool enabled() const { return control_.enabled(); }
+
     /// Where the control stands in the window.
     virtual QRect place(const FormLayout& layout) const { return layout.place(control_); }
 
@@ -59,6 +61,9 @@ class ControlView {
     /// `text` in the control's font, smaller or cut where it doesn't fit `room`. The tip shows a cut one
     /// whole.
     const FittedText& fitted(const QString& text, QSize room, int flags, const FormLayout& layout);
+
+    /// The tip shows this text whole: it can't be seen so.
+    void markCut(const QString& text) { cutText_ = text; }
 
   private:
     void syncName();
@@ -73,6 +78,7 @@ class ControlView {
         QFont font;
         FittedText result;
     } fitting_;
+    QString cutText_;
 };
 
 /// The view for a control of any kind, on `parent`.

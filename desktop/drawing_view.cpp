@@ -1,14 +1,16 @@
-#include "desktop/drawing_view.h"
-
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <optional>
+#include <utility>
 
 #include "desktop/exports.h"
+#include "desktop/views.h"
 #include "drawing/chart_drawing.h"
+#include "drawing/drawing.h"
 
 namespace vantore {
 
@@ -18,8 +20,10 @@ constexpr int wheelNotch = 120; // eighths of a degree
 constexpr double panStep = 25;  // pixels of the design
 const QColor edgeColour(0xB4, 0xBA, 0xC0);
 
-/// The paper on the screen. A painted picture is kept until the drawing or the size changes, so that a
-/// window that is uncovered or scrolled over needs no new drawing.
+/// The white paper on the screen. Its menu copies the drawing as a picture, saves it as SVG, PNG or PDF and
+/// prints it. Where a surface can be looked at from nearer, the wheel does so, and dragging moves what is
+/// seen. A painted picture is kept until the drawing or the size changes, so that a window that is uncovered
+/// or scrolled over needs no new drawing.
 class Paper : public QWidget {
   public:
     Paper(QWidget* parent, ViewContext& context, Control& drawing)
@@ -124,27 +128,40 @@ class Paper : public QWidget {
     int turned_ = 0; ///< of the wheel, less than a notch
 };
 
+/// A picture surface or a chart in a window.
+class DrawingView : public ControlView {
+  public:
+    DrawingView(ViewContext& context, Control& drawing, QWidget* parent)
+        : ControlView(context, drawing, new Paper(parent, context, drawing)) {}
+
+  protected:
+    void syncContent(const FormLayout& layout) override {
+        const bool zoomed = zoom_ != layout.zoom;
+        zoom_ = layout.zoom;
+        if (changed() || zoomed) static_cast<Paper&>(*widget()).redraw(layout.zoom);
+    }
+
+  private:
+    bool changed() {
+        if (const auto* chart = dynamic_cast<const Chart*>(&control()))
+            return std::exchange(chart_, chart->data) != chart->data;
+        const unsigned revision = dynamic_cast<const PictureSurface&>(control()).revision();
+        return std::exchange(revision_, revision) != revision;
+    }
+
+    unsigned revision_ = 0; ///< as last shown
+    ChartData chart_;
+    double zoom_ = 0;
+};
+
 } // namespace
 
-DrawingView::DrawingView(ViewContext& context, Control& drawing, QWidget* parent)
-    : ControlView(context, drawing, new Paper(parent, context, drawing)) {}
-
-bool DrawingView::changed() {
-    if (const auto* chart = dynamic_cast<const Chart*>(&control())) {
-        if (chart->data == chart_) return false;
-        chart_ = chart->data;
-        return true;
-    }
-    const unsigned revision = dynamic_cast<const PictureSurface&>(control()).revision();
-    if (revision == revision_) return false;
-    revision_ = revision;
-    return true;
+std::unique_ptr<ControlView> viewOf(ViewContext& context, Chart& chart, QWidget* parent) {
+    return std::make_unique<DrawingView>(context, chart, parent);
 }
 
-void DrawingView::syncContent(const FormLayout& layout) {
-    const bool zoomed = zoom_ != layout.zoom;
-    zoom_ = layout.zoom;
-    if (changed() || zoomed) static_cast<Paper&>(*widget()).redraw(layout.zoom);
+std::unique_ptr<ControlView> viewOf(ViewContext& context, PictureSurface& surface, QWidget* parent) {
+    return std::make_unique<DrawingView>(context, surface, parent);
 }
 
 } // namespace vantore

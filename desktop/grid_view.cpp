@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "desktop/grid_looks.h"
+#include "desktop/views.h"
 #include "drawing/fonts.h"
 #include "shell/forms/keys.h"
 
@@ -49,7 +50,7 @@ CellBlock cell(int row, int col) {
 }
 
 NumberMarks usersMarks() {
-    return {.decimal = utf8Text(QLocale::system().decimalPoint()).front()};
+    return {.decimal = QLocale::system().decimalPoint() == "," ? ',' : '.'};
 }
 
 } // namespace
@@ -327,11 +328,23 @@ void GridView::clearBlock() {
     });
 }
 
-GridControlView::GridControlView(ViewContext& context, DataGrid& grid, QWidget* parent)
-    : ControlView(context, grid, new GridView(parent, context, grid)) {}
+namespace {
 
-void GridControlView::syncContent(const FormLayout& layout) {
-    static_cast<GridView&>(*widget()).refresh(layout, font(layout));
+class GridControlView : public ControlView {
+  public:
+    GridControlView(ViewContext& context, DataGrid& grid, QWidget* parent)
+        : ControlView(context, grid, new GridView(parent, context, grid)) {}
+
+  protected:
+    void syncContent(const FormLayout& layout) override {
+        static_cast<GridView&>(*widget()).refresh(layout, font(layout));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlView> viewOf(ViewContext& context, DataGrid& grid, QWidget* parent) {
+    return std::make_unique<GridControlView>(context, grid, parent);
 }
 
 } // namespace vantore

@@ -60,13 +60,4 @@ class GridView : public QTableView {
     bool showing_ = false; ///< the form's state is being shown: no change is a user's
 };
 
-/// The grid as a control of a window.
-class GridControlView : public ControlView {
-  public:
-    GridControlView(ViewContext& context, DataGrid& grid, QWidget* parent);
-
-  protected:
-    void syncContent(const FormLayout& layout) override;
-};
-
 } // namespace vantore

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "desktop/picture_view.h"
+#include "desktop/pictures.h"
 #include "drawing/fonts.h"
 
 namespace vantore {

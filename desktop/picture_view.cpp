@@ -1,10 +1,11 @@
-#include "desktop/picture_view.h"
+#include "desktop/pictures.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
 
+#include "desktop/views.h"
 #include "drawing/fonts.h"
 
 namespace vantore {
@@ -41,6 +42,17 @@ class Image : public QWidget {
     QPixmap drawn_;
 };
 
+class PictureView : public ControlView {
+  public:
+    PictureView(ViewContext& context, Picture& picture, QWidget* parent)
+        : ControlView(context, picture, new Image(parent, picture)) {
+        widget()->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+  protected:
+    void syncContent(const FormLayout& /*layout*/) override {}
+};
+
 } // namespace
 
 QString pictureFile(const std::string& name) {
@@ -48,11 +60,8 @@ QString pictureFile(const std::string& name) {
     return QFile::exists(file) ? file : QString(":/pictures/general.svg");
 }
 
-PictureView::PictureView(ViewContext& context, Picture& picture, QWidget* parent)
-    : ControlView(context, picture, new Image(parent, picture)) {
-    widget()->setAttribute(Qt::WA_TransparentForMouseEvents);
+std::unique_ptr<ControlView> viewOf(ViewContext& context, Picture& picture, QWidget* parent) {
+    return std::make_unique<PictureView>(context, picture, parent);
 }
-
-void PictureView::syncContent(const FormLayout& /*layout*/) {}
 
 } // namespace vantore

@@ -7,6 +7,7 @@
 #include <QTextCursor>
 
 #include "desktop/exports.h"
+#include "desktop/views.h"
 #include "drawing/drawing.h"
 #include "drawing/fonts.h"
 
@@ -28,9 +29,9 @@ void ReportBox::refresh(double zoom) {
     if (!grown) {
         clear();
         shown_ = 0;
-        // The font of nearly all lines is the document's; the others bear theirs.
+        // The font of nearly all lines is the box's; the others bear theirs.
         bodyFont_ = lines.empty() ? Font{} : lines.back().font;
-        document()->setDefaultFont(qtFont(bodyFont_, zoom));
+        setFont(qtFont(bodyFont_, zoom));
     }
     zoom_ = zoom;
     writing_ = report_.writing();
@@ -75,11 +76,23 @@ void ReportBox::contextMenuEvent(QContextMenuEvent* event) {
     menu.exec(event->globalPos());
 }
 
-ReportView::ReportView(ViewContext& context, ReportScreen& report, QWidget* parent)
-    : ControlView(context, report, new ReportBox(parent, context, report)) {}
+namespace {
 
-void ReportView::syncContent(const FormLayout& layout) {
-    static_cast<ReportBox&>(*widget()).refresh(layout.zoom);
+class ReportView : public ControlView {
+  public:
+    ReportView(ViewContext& context, ReportScreen& report, QWidget* parent)
+        : ControlView(context, report, new ReportBox(parent, context, report)) {}
+
+  protected:
+    void syncContent(const FormLayout& layout) override {
+        static_cast<ReportBox&>(*widget()).refresh(layout.zoom);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlView> viewOf(ViewContext& context, ReportScreen& report, QWidget* parent) {
+    return std::make_unique<ReportView>(context, report, parent);
 }
 
 } // namespace vantore

@@ -30,12 +30,4 @@ class ReportBox : public QPlainTextEdit {
     Font bodyFont_;
 };
 
-class ReportView : public ControlView {
-  public:
-    ReportView(ViewContext& context, ReportScreen& report, QWidget* parent);
-
-  protected:
-    void syncContent(const FormLayout& layout) override;
-};
-
 } // namespace vantore

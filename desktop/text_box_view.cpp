@@ -1,5 +1,3 @@
-#include "desktop/text_box_view.h"
-
 #include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -9,6 +7,7 @@
 #include <limits>
 #include <memory>
 
+#include "desktop/views.h"
 #include "drawing/fonts.h"
 
 namespace vantore {
@@ -17,6 +16,8 @@ namespace {
 
 constexpr int frameWidth = 3; // pixels of frame and margin on each side
 constexpr int textMargin = 5;
+constexpr int endless = 1 << 20;
+constexpr int longestMeasured = 1000; // characters; no box is wider
 
 class Editor : public QLineEdit {
   public:
@@ -69,27 +70,42 @@ class Editor : public QLineEdit {
     TextBox& box_;
 };
 
+/// A text box. A text longer than the box comes as a tip.
+class TextBoxView : public ControlView {
+  public:
+    TextBoxView(ViewContext& context, TextBox& box, QWidget* parent)
+        : ControlView(context, box, new Editor(parent, context, box)), box_(box),
+          edit_(static_cast<QLineEdit&>(*widget())) {}
+
+  protected:
+    /// While a solver runs nothing is edited.
+    bool enabled() const override { return box_.enabled() && context().form().runningNote.empty(); }
+
+    void syncContent(const FormLayout& layout) override {
+        const QString text = qtText(box_.text());
+        if (edit_.text() != text) {
+            const int cursor = edit_.cursorPosition();
+            edit_.setText(text);
+            edit_.setCursorPosition(edit_.hasFocus() ? std::min(cursor, static_cast<int>(text.size())) : 0);
+        }
+        // Only the height limits the font: a text may be longer than its box, in which it is moved.
+        const QSize room(endless, edit_.height() - 2 * frameWidth);
+        const QFont& wanted = fitted("Xg", room, Qt::TextSingleLine, layout).font;
+        if (edit_.font() != wanted) edit_.setFont(wanted);
+        const int width = edit_.width() - 2 * (frameWidth + textMargin);
+        if (text.size() > longestMeasured || edit_.fontMetrics().horizontalAdvance(text) > width)
+            markCut(text);
+    }
+
+  private:
+    TextBox& box_;
+    QLineEdit& edit_;
+};
+
 } // namespace
 
-TextBoxView::TextBoxView(ViewContext& context, TextBox& box, QWidget* parent)
-    : ControlView(context, box, new Editor(parent, context, box)), box_(box),
-      edit_(static_cast<QLineEdit&>(*widget())) {}
-
-void TextBoxView::syncContent(const FormLayout& layout) {
-    // While a solver runs nothing is edited.
-    edit_.setEnabled(box_.enabled() && context().form().runningNote.empty());
-    const QString text = qtText(box_.text());
-    if (edit_.text() != text) {
-        const int cursor = edit_.cursorPosition();
-        edit_.setText(text);
-        edit_.setCursorPosition(edit_.hasFocus() ? std::min(cursor, static_cast<int>(text.size())) : 0);
-    }
-    const QSize room = edit_.size() - QSize(2 * (frameWidth + textMargin), 2 * frameWidth);
-    const FittedText& shown = fitted(text, room, Qt::TextSingleLine, layout);
-    // A text that is only too long is moved through its box; one line too high is smaller.
-    const QFont heightFont = fittedText("Xg", font(layout), QSize(room.height() * 10, room.height()), 0).font;
-    const QFont& wanted = shown.cut ? heightFont : shown.font;
-    if (edit_.font() != wanted) edit_.setFont(wanted);
+std::unique_ptr<ControlView> viewOf(ViewContext& context, TextBox& box, QWidget* parent) {
+    return std::make_unique<TextBoxView>(context, box, parent);
 }
 
 } // namespace vantore

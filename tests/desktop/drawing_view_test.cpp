@@ -1,5 +1,3 @@
-#include "desktop/drawing_view.h"
-
 #include <QHelpEvent>
 #include <QTest>
 #include <QToolTip>

@@ -1,5 +1,3 @@
-#include "desktop/list_view.h"
-
 #include <QListWidget>
 #include <QTest>
 #include <gtest/gtest.h>
