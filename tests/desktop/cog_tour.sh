@@ -98,11 +98,12 @@ keys alt+v
 expect_window 'Save center-of-gravity data'
 keys ctrl+a
 text COGT.dat
+dialog=$(xdotool getactivewindow)
 keys Return
-expect_no_keyboard 'Save center-of-gravity data'
+expect_other_window "$dialog"
 shot 11-replace
 keys alt+n
-expect_window 'Save center-of-gravity data'
+expect_same_window "$dialog"
 keys Escape
 expect_window "COG - $io/COGNEW.dat"
 holds "$io/COGT.dat" '"Borrow",8,4,2500,.04'

@@ -96,8 +96,11 @@ expect_window() {
     await "the keyboard in '$1'" has_keyboard "$1"
 }
 
-expect_no_keyboard() { await "another window than '$1' in use" lost_keyboard "$1"; }
-lost_keyboard() { ! has_keyboard "$1"; }
+# expect_other_window WINDOW, expect_same_window WINDOW: whatever their titles, another one has the keyboard, or that one.
+expect_other_window() { await "another window in use" other_window "$1"; }
+expect_same_window() { await "the window before" same_window "$1"; }
+other_window() { [ "$(xdotool getactivewindow)" != "$1" ]; }
+same_window() { [ "$(xdotool getactivewindow)" = "$1" ]; }
 
 expect_no_window() { await "the end of '$1'" no_window "$1"; }
 
