@@ -17,7 +17,7 @@ constexpr int depotPoint = 1;
 
 std::vector<int> shortSequence(const Points& points) {
     std::vector<int> tour = tourThroughAll(points, convexHull(points));
-    std::ranges::rotate(tour, std::ranges::find(tour, depotPoint));
+    std::rotate(tour.begin(), std::find(tour.begin(), tour.end(), depotPoint), tour.end());
     std::vector<int> stops(tour.begin() + 1, tour.end());
     for (int& stop : stops) --stop;
     return stops;
