@@ -60,7 +60,7 @@ void SCSim::addButtons() {
     cmdSave = &addButton("Save", "Sa&ve data", buttonPlace(0, 1), {View::Data}, [this] { saveProblem(); });
     cmdSolve = &addButton("Solve", "&Solve", buttonPlace(0, 2), {View::Data}, [this] { solve(); });
     setErrorPlace(*cmdSolve, " occurred in Solve, SCSIM.");
-    auto& showResults = addButton("Report", "&Report", buttonPlace(0, 3), always, [this] { showReports(); });
+    auto& showResults = addButton("Report", "Repor&t", buttonPlace(0, 3), always, [this] { showReports(); });
     Seen(showResults).when([this] { return reportOffered_; });
     showResults.usable = [this] { return resultsStand_ && view() == View::Data; };
     showResults.tip = "Needs the results of a run: press Solve.";
