@@ -140,14 +140,14 @@ void SCSim::solve() {
     const Problem problem = channel_.take();
     std::vector<std::string> trace = traceHeading();
     writeLines(suite().ioPath(traceFile), trace);
-    const Ending ending = run(problem, trace);
+    const Ending ending = runDays(problem, trace);
     writeLines(suite().ioPath(traceFile), trace);
     if (ending == Ending::Complete) resultsStand_ = true;
 }
 
 /// However the run ends, the parameters calculated last are shown; an error leaves the trace of the days that
 /// were reached.
-Ending SCSim::run(const Problem& problem, std::vector<std::string>& trace) {
+Ending SCSim::runDays(const Problem& problem, std::vector<std::string>& trace) {
     const Busy busy(suite());
     int today = firstDay;
     const Watchers watchers = {.trace = [&trace](const TraceRow& row) { trace.push_back(traceLine(row)); },

@@ -56,7 +56,7 @@ class SCSim : public ModuleFrame {
     void typeInGrid(DataGrid& grid, int code);
     void dropResults() { resultsStand_ = false; }
 
-    Ending run(const Problem& problem, std::vector<std::string>& trace);
+    Ending runDays(const Problem& problem, std::vector<std::string>& trace);
     Answers answersOn(const int& today);
     void showProgress(const std::string& day);
     void showReports();
