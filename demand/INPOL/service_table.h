@@ -1,15 +1,13 @@
 #pragma once
 
+#include "shell/base/normal_table.h"
+
 namespace vantore::inpol {
 
 /// The normal distribution as the policies see it: a table of service levels by half per cents, ending in a
 /// stop at certainty.
 
-struct ServiceLevel {
-    double probability;
-    double z;    ///< normal deviate
-    double loss; ///< unit normal loss
-};
+using ServiceLevel = NormalRow;
 
 constexpr int serviceLevels = 101;
 

@@ -2,14 +2,12 @@
 
 #include <optional>
 
+#include "shell/base/normal_table.h"
+
 namespace vantore::scsim {
 
 /// The standard normal distribution as the calculated policies see it.
-struct SafetyRow {
-    double probability; ///< of being in stock
-    double z;           ///< normal deviate
-    double loss;        ///< unit normal loss
-};
+using SafetyRow = NormalRow;
 
 constexpr int safetyRows = 108;
 
