@@ -21,7 +21,7 @@ constexpr std::array<Screen, 3> screens = {{{800, 600}, {1024, 768}, {1920, 1080
 /// What holds for every module of the suite, at every screen size.
 class EveryModule : public testing::TestWithParam<std::string> {};
 
-/// The button that opens a file; empty for a module without files.
+/// The button that opens a file; empty for a module that makes no new problems.
 std::string openButton(const Form& form) {
     for (const char* name : {"cmdOpen", "cmdOpenFile"})
         if (form.find(name) != nullptr) return name;
@@ -47,7 +47,7 @@ TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
         ModuleSession session(screen.width, screen.height);
         session.play("module " + GetParam());
         const std::string open = openButton(session.module());
-        if (open.empty()) GTEST_SKIP() << "no problem file";
+        if (open.empty()) GTEST_SKIP() << "makes no new problems";
         session.play("file NEW.dat\npress " + open);
         EXPECT_EQ(session.module().view(), View::Data);
         EXPECT_EQ(together(formFaults(session.module())), "") << screen.width << "x" << screen.height;
@@ -68,7 +68,7 @@ TEST_P(EveryModule, SurvivesAFileThatHoldsAnythingAtAll) {
         session.writeFile("BAD.dat", content);
         session.play("module " + GetParam());
         const std::string open = openButton(session.module());
-        if (open.empty()) GTEST_SKIP() << "no problem file";
+        if (open.empty()) GTEST_SKIP() << "makes no new problems";
         const std::vector<std::string> told = lines(session.play("file BAD.dat\npress " + open));
         EXPECT_EQ(session.readFile("BAD.dat"), content);
         ASSERT_TRUE(!told.empty() && told.size() <= 2 && told[0].starts_with("OpenDialog ")) << content;
