@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QTabBar>
 #include <filesystem>
 #include <vector>
 
@@ -71,7 +72,7 @@ const std::vector<ModuleTour>& tours() {
          {{"report", "press cmdSolve"},
           {"plot", "press cmdContinue\npress cmdPlot"},
           {"path", "answer 1\npress cmdPath"},
-          {"zoom", "answer 1\npress cmdZoom"}}},
+          {"zoom", "answer +\npress cmdZoom"}}},
         {"ROUTESEQ",
          {"RSEQ01.dat"},
          "cmdOpen",
@@ -98,9 +99,12 @@ const std::string longText = "A text that is longer than any place for it in a w
 void typeLongTexts(Form& form) {
     for (const auto& control : form.controls()) {
         auto* box = dynamic_cast<TextBox*>(control.get());
-        if (box != nullptr && box->name.find("abel") != std::string::npos) form.type(*box, longText);
+        if (box != nullptr && (box->name.ends_with("abel") || box->name.ends_with("Title")))
+            form.type(*box, longText);
         auto* grid = dynamic_cast<DataGrid*>(control.get());
-        if (grid != nullptr && grid->shown() && !grid->numeric(1)) form.typeCell(*grid, 1, 1, longText);
+        if (grid == nullptr || !grid->shown()) continue;
+        for (int column = 1; column < grid->cols(); ++column)
+            if (!grid->numeric(column)) form.typeCell(*grid, 1, column, longText);
     }
 }
 
@@ -123,6 +127,9 @@ class ModuleWindows : public testing::TestWithParam<ModuleTour> {
     }
 
     static void check(const std::string& view, FormWindow& window) {
+        for (const QTabBar* bar : window.findChildren<QTabBar*>())
+            EXPECT_TRUE(!bar->isVisible() || bar->sizeHint().width() <= bar->width())
+                << view << ": captions of tabs are cut";
         const Form& form = window.form();
         for (const auto& control : form.controls()) {
             if (!control->shown()) continue;
