@@ -93,7 +93,7 @@ struct Screen {
 };
 
 const std::string longText = "A text that is longer than any place for it in a window has room to show: "
-                             "so it is cut there, and comes whole as a tip when the pointer rests on it";
+                             "so it is cut there and comes whole as a tip when the pointer rests on it";
 
 /// Puts a long text where a user can type one that is no number.
 void typeLongTexts(Form& form) {
