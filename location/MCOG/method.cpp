@@ -141,8 +141,7 @@ void reallocate(const Problem& problem, Plan& plan) {
     }
 }
 
-Plan located(const Problem& problem, int facilityCount) {
-    Plan plan = seeded(problem, facilityCount);
+Plan improved(const Problem& problem, Plan plan) {
     double best = beyondAnyCost;
     while (true) {
         plan.totalCost = relocate(problem, plan);
@@ -150,6 +149,10 @@ Plan located(const Problem& problem, int facilityCount) {
         if (plan.totalCost >= best) return plan;
         best = plan.totalCost;
     }
+}
+
+Plan located(const Problem& problem, int facilityCount) {
+    return improved(problem, seeded(problem, facilityCount));
 }
 
 void price(const Problem& problem, Plan& plan) {

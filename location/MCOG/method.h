@@ -36,6 +36,9 @@ void price(const Problem& problem, Plan& plan);
 /// The points dealt out to the facilities in turn.
 Plan seeded(const Problem& problem, int facilityCount);
 
+/// Relocates and reallocates by turns until the total cost no longer falls.
+Plan improved(const Problem& problem, Plan plan);
+
 /// Puts each facility that has points where they call for it, with its cost, and gives the total cost. A
 /// facility without points stays where it was and costs nothing.
 double relocate(const Problem& problem, Plan& plan);
