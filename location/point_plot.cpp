@@ -19,13 +19,14 @@ constexpr double plotRight = 560;
 constexpr double plotTop = 70;
 constexpr double plotBottom = 390;
 constexpr double plotSide = 320;
+constexpr double numberLeft = 244; // of the numbers of points at 0
+constexpr double numberBottom = 384;
 constexpr double gridStep = 32;
 constexpr int gridLines = 11;
 constexpr double titleFontSize = 10;
 constexpr double tickFontSize = 7;
 constexpr double margin = 8;
 constexpr double lineHeight = 16;
-constexpr double listTop = 32;
 constexpr double halfSquare = 3;
 constexpr double facilityRadius = 6;
 constexpr double leastLargest = 0.000001; // keeps the scaling from dividing by 0
@@ -144,11 +145,20 @@ PointPlot drawPlotFrame(PictureSurface& surface, Scale scale, const PlotHeading&
     return {std::move(points), largest};
 }
 
-void printNumbers(PictureSurface& surface, Scale scale, const PointPlot& plot) {
+PlotPoint PointPlot::numberPlaceOf(PlotPoint point) const {
+    return {numberLeft + plotSide * point.x / largest.x, numberBottom - plotSide * point.y / largest.y};
+}
+
+std::vector<PlotPoint> PointPlot::numberPlaces() const {
+    std::vector<PlotPoint> places;
+    for (const PlotPoint& point : points) places.push_back(numberPlaceOf(point));
+    return places;
+}
+
+void printNumbers(PictureSurface& surface, Scale scale, std::span<const PlotPoint> places) {
     int number = 0;
-    for (const PlotPoint& point : plot.points) {
-        surface.moveTo((244 + plotSide * point.x / plot.largest.x) * scale.x,
-                       (384 - plotSide * point.y / plot.largest.y) * scale.y);
+    for (const PlotPoint& place : places) {
+        surface.moveTo(place.x * scale.x, place.y * scale.y);
         surface.print(str(++number) + " ", colour::black);
     }
 }
@@ -167,9 +177,8 @@ void drawService(PictureSurface& surface, Scale scale, PlotPoint point, PlotPoin
                  colour::lightRed);
 }
 
-void listFacilities(PictureSurface& surface, Scale scale, std::span<const ListedFacility> facilities,
-                    const std::string& totalCost) {
-    double top = listTop;
+void listFacilities(PictureSurface& surface, Scale scale, double top,
+                    std::span<const ListedFacility> facilities, const std::string& totalCost) {
     const auto nextLine = [&] {
         surface.moveTo(margin * scale.x, top * scale.y);
         top += lineHeight;

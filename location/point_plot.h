@@ -33,6 +33,8 @@ struct PointPlot {
     PlotPoint largest;
 
     PlotPoint placeOf(PlotPoint point) const { return plotPlace(point, largest); }
+    PlotPoint numberPlaceOf(PlotPoint point) const;
+    std::vector<PlotPoint> numberPlaces() const;
 };
 
 /// Clears the surface and prints the title and the problem's label.
@@ -43,8 +45,8 @@ void printPlotHeading(PictureSurface& surface, Scale scale, const PlotHeading& h
 PointPlot drawPlotFrame(PictureSurface& surface, Scale scale, const PlotHeading& heading,
                         std::vector<PlotPoint> points);
 
-/// Prints the points' numbers.
-void printNumbers(PictureSurface& surface, Scale scale, const PointPlot& plot);
+/// Prints the points' numbers, from 1, at these places.
+void printNumbers(PictureSurface& surface, Scale scale, std::span<const PlotPoint> places);
 
 // What lies at places of the surface, in design units.
 
@@ -60,8 +62,9 @@ struct ListedFacility {
     std::optional<PlotPoint> location;
 };
 
-/// Lists the facilities' coordinates at the left of a plot, and the total cost under them.
-void listFacilities(PictureSurface& surface, Scale scale, std::span<const ListedFacility> facilities,
-                    const std::string& totalCost);
+/// Lists the facilities' coordinates at the left of a plot, from a line of the design on, and the total cost
+/// under them.
+void listFacilities(PictureSurface& surface, Scale scale, double top,
+                    std::span<const ListedFacility> facilities, const std::string& totalCost);
 
 } // namespace vantore

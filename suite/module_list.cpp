@@ -8,6 +8,7 @@
 #include "location/COG/COG.h"
 #include "location/LAYOUT/LAYOUT.h"
 #include "location/MCOG/MCOG.h"
+#include "location/PMED/PMED.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
@@ -34,6 +35,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<cog::COG>("COG"),
         entry<layout::LAYOUT>("LAYOUT"),
         entry<mcog::MCOG>("MULTICOG"),
+        entry<pmed::PMED>("PMED"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),

@@ -165,7 +165,8 @@ void COG::plot() {
     for (const Point& point : problem.pointSpan()) points.push_back({point.x, point.y});
     const PointPlot plotted =
         drawPlotFrame(*picOut, scale(), {problem.label, "MS Sans Serif", labelTop}, points);
-    if (suite().asksYes("Want to show point numbers?", "COG")) printNumbers(*picOut, scale(), plotted);
+    if (suite().asksYes("Want to show point numbers?", "COG"))
+        printNumbers(*picOut, scale(), plotted.numberPlaces());
     for (const PlotPoint& point : plotted.points) drawPoint(*picOut, scale(), plotted.placeOf(point));
     plotFacility(*picOut, scale(), plotted, facility_);
 }

@@ -156,7 +156,8 @@ void MCOG::printData() {
 void MCOG::plot() {
     showView(View::Plot);
     const PointPlot plotted = plotFrame(*picOut, scale(), readControls());
-    if (suite().asksYes("Want to show point numbers?", "Question")) printNumbers(*picOut, scale(), plotted);
+    if (suite().asksYes("Want to show point numbers?", "Question"))
+        printNumbers(*picOut, scale(), plotted.numberPlaces());
     plotPlan(*picOut, scale(), plotted, plan_);
 }
 

@@ -9,6 +9,7 @@ namespace vantore::mcog {
 namespace {
 
 constexpr double labelTop = 16; // units of the design
+constexpr double listTop = 32;
 
 PlotPoint plotPoint(Location location) {
     return {location.x, location.y};
@@ -44,7 +45,7 @@ void plotPlan(PictureSurface& surface, Scale scale, const PointPlot& plot, const
         const Location serving = plan.facilities(plan.assignedTo(++i)).location;
         drawService(surface, scale, plot.placeOf(point), plot.placeOf(plotPoint(serving)));
     }
-    listFacilities(surface, scale, facilities, format(plan.totalCost, "###,###,###,###.#0"));
+    listFacilities(surface, scale, listTop, facilities, format(plan.totalCost, "###,###,###,###.#0"));
 }
 
 } // namespace vantore::mcog
