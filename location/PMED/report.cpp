@@ -88,7 +88,8 @@ PrintLines dataPage(const Problem& problem, const std::string& facilities) {
         page.text(left(site.label, labelCharacters));
         page.right(26, format(site.x, "##,###.#0")).right(36, format(site.y, "##,###.#0"));
         page.right(48, format(site.volume, "###,###,##0")).right(58, format(site.rate, "##,###.###0"));
-        page.right(70, format(site.fixedCost, "###,###,##0")).right(80, site.candidate ? "X" : "");
+        page.right(70, format(site.fixedCost, "###,###,##0"));
+        if (site.candidate) page.right(80, "X");
         page.endLine();
     }
     return page;
