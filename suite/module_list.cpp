@@ -6,6 +6,7 @@
 #include "demand/INPOL/INPOL.h"
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
+#include "location/LAYOUT/LAYOUT.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
@@ -30,6 +31,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<forecast::FORECAST>("FORECAST"),
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
+        entry<layout::LAYOUT>("LAYOUT"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),
