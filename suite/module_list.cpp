@@ -7,6 +7,7 @@
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
 #include "location/LAYOUT/LAYOUT.h"
+#include "location/WARELOCA/WARELOCA.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
@@ -32,6 +33,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
         entry<layout::LAYOUT>("LAYOUT"),
+        entry<wareloca::WARELOCA>("WARELOCA"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),
