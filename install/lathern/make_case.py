@@ -65,7 +65,7 @@ SELECTED_WAREHOUSES = {"Atlanta", "Boston", "Charlotte", "Chicago", "Columbus", 
                        "Los Angeles", "Memphis", "Minneapolis", "New Orleans", "Newark", "Philadelphia", "Sacramento",
                        "Salt Lake City", "Seattle", "Tampa"}
 
-PLANT_WAREHOUSE = (0.92, 0.0034)  # $/cwt., $/cwt./mile
+PLANT_WAREHOUSE = (0.92, 0.002)  # $/cwt., $/cwt./mile; whole truckloads
 WAREHOUSE_CUSTOMER = (5.45, 0.0037)
 CAPITAL_COST, PRODUCT_VALUE = 12, 26  # %/year, $/cwt.
 INVENTORY = (11.3, 0.58)  # constant, exponent

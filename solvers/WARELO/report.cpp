@@ -114,7 +114,7 @@ void printService(PrintLines& page, const Case& problem, const Plan& plan, doubl
         page.text(" ").text(caption).right(53, text).text(more).endLine();
     };
     page.line("").line(" CUSTOMER SERVICE");
-    line("Desired distance from the warehouse, miles", format(problem.desiredDistance, "###,##0.##"), "");
+    line("Desired distance from the warehouse, miles", defaultText(problem.desiredDistance), "");
     line("Sales within it, cwt./yr.", whole(withinSales), "  " + percent(shareOf(withinSales, sales)) + " %");
     line("Customers within it", whole(within), "  of " + whole(static_cast<double>(plan.customers.size())));
     line("Average distance of the sales, miles", format(shareOf(salesMiles, sales), "###,##0.0"), "");
