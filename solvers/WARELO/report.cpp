@@ -80,11 +80,11 @@ void printSize(PrintLines& page, const Case& problem, const Plan& plan, double s
 void printCosts(PrintLines& page, const Costs& costs, double sales) {
     const double total = costs.total();
     const auto line = [&](const char* name, double cost) {
-        page.text(" ").text(name).right(53, whole(cost)).right(63, format(shareOf(cost, sales), "##,##0.00"));
-        page.right(72, percent(shareOf(cost, total))).endLine();
+        page.text(" ").text(name).right(53, whole(cost)).right(67, format(shareOf(cost, sales), "##,##0.00"));
+        page.right(75, percent(shareOf(cost, total))).endLine();
     };
     page.line("").line(" COST OF THE NETWORK");
-    page.text(" Kind of cost").right(53, "$/yr.").right(63, "$/cwt.").right(72, "%").endLine();
+    page.text(" Kind of cost").right(53, "$/yr.").right(67, "$/cwt.").right(75, "%").endLine();
     for (const KindName& kind : kindNames) line(kind.name, costs(kind.kind));
     line("Total", total);
 }
