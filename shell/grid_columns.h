@@ -13,10 +13,12 @@
 
 namespace vantore {
 
-/// A column's caption, its lines apart by CR LF, and its width in twips of the design.
+/// A column's caption, its lines apart by CR LF, its width in twips of the design, and the mask under which
+/// its numbers are put; without one they are default texts.
 struct ColumnHeading {
     std::string caption;
     double width = designColWidth;
+    std::string mask = {};
 };
 
 /// Shapes a grid to columns with these headings, column 0 first. The heading row is as high as its longest
@@ -34,19 +36,21 @@ class GridColumns {
                 const std::vector<ColumnHeading>& headings)
         : grid_(&grid), fields_(fields) {
         shapeColumns(grid, headings);
+        for (const ColumnHeading& heading : headings) masks_.push_back(heading.mask);
         grid.holdsNumbers = [fields](int col) {
             return col >= 1 && col <= static_cast<int>(fields.size()) &&
                    std::holds_alternative<double Record::*>(fields[static_cast<std::size_t>(col - 1)]);
         };
     }
 
-    /// Puts a record into a row, numbers as their default texts.
+    /// Puts a record into a row, numbers under their columns' masks.
     void put(int row, const Record& record) const {
         for (std::size_t i = 0; i < fields_.size(); ++i) {
             const auto* text = std::get_if<std::string Record::*>(&fields_[i]);
             grid_->setCell(row, static_cast<int>(i) + 1,
-                           text != nullptr ? record.**text
-                                           : defaultText(record.*std::get<double Record::*>(fields_[i])));
+                           text != nullptr
+                               ? record.**text
+                               : shown(record.*std::get<double Record::*>(fields_[i]), masks_[i + 1]));
         }
     }
 
@@ -63,8 +67,13 @@ class GridColumns {
     }
 
   private:
+    static std::string shown(double number, const std::string& mask) {
+        return mask.empty() ? defaultText(number) : format(number, mask);
+    }
+
     DataGrid* grid_ = nullptr;
     std::span<const Field<Record>> fields_;
+    std::vector<std::string> masks_; ///< by column, column 0 first
 };
 
 } // namespace vantore

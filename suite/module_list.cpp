@@ -9,6 +9,7 @@
 #include "location/LAYOUT/LAYOUT.h"
 #include "location/MCOG/MCOG.h"
 #include "location/PMED/PMED.h"
+#include "location/WARELOCA/WARELOCA.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
@@ -36,6 +37,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<layout::LAYOUT>("LAYOUT"),
         entry<mcog::MCOG>("MULTICOG"),
         entry<pmed::PMED>("PMED"),
+        entry<wareloca::WARELOCA>("WARELOCA"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),
