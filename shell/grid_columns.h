@@ -36,28 +36,25 @@ class GridColumns {
         shapeColumns(grid, headings);
         grid.holdsNumbers = [fields](int col) {
             return col >= 1 && col <= static_cast<int>(fields.size()) &&
-                   std::holds_alternative<double Record::*>(fields[static_cast<std::size_t>(col - 1)]);
+                   !isText(fields[static_cast<std::size_t>(col - 1)]);
         };
     }
 
     /// Puts a record into a row, numbers as their default texts.
     void put(int row, const Record& record) const {
-        for (std::size_t i = 0; i < fields_.size(); ++i) {
-            const auto* text = std::get_if<std::string Record::*>(&fields_[i]);
-            grid_->setCell(row, static_cast<int>(i) + 1,
-                           text != nullptr ? record.**text
-                                           : defaultText(record.*std::get<double Record::*>(fields_[i])));
-        }
+        for (std::size_t i = 0; i < fields_.size(); ++i)
+            grid_->setCell(row, static_cast<int>(i) + 1, fieldText(record, fields_[i]));
     }
 
-    /// Takes a record from a row: texts without blanks at their ends, numbers by `val`.
+    /// Takes a record from a row: texts without blanks at their ends, numbers by `val`. Overflow for a whole
+    /// number beyond 16 bits.
     void take(int row, Record& record) const {
         for (std::size_t i = 0; i < fields_.size(); ++i) {
             const std::string& cell = grid_->cell(row, static_cast<int>(i) + 1);
             if (const auto* text = std::get_if<std::string Record::*>(&fields_[i])) {
                 record.** text = trimmed(cell);
             } else {
-                record.*std::get<double Record::*>(fields_[i]) = val(cell);
+                setNumber(record, fields_[i], val(cell));
             }
         }
     }
