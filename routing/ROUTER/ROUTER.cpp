@@ -224,7 +224,9 @@ std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem)
     const int stopCount = toInt32(val(*count));
     checkIndex(stopCount, 0, mostStopsPerRoute);
     const CountedTable<double> numbers = routing::destring2(*stops);
-    PlannedRoute route{.vehicle = toInt32(val(*vehicle)), .start = val(*start)};
+    PlannedRoute route;
+    route.vehicle = toInt32(val(*vehicle));
+    route.start = val(*start);
     route.weightCapacity = problem.vehicles(route.vehicle).weightCapacity;
     for (int i = 1; i <= stopCount; ++i) {
         route.stops.push_back(toInt32(numbers(i)));
