@@ -2,7 +2,7 @@
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev qt6-charts-dev
     libqt6opengl6-dev fonts-liberation coinor-libcbc-dev zlib1g-dev libgmp-dev"
-test_packages="python3 python3-simpy3 libgtest-dev libbenchmark-dev liblemon-dev libboost-dev geographiclib-tools
+test_packages="ccache python3 python3-simpy3 libgtest-dev libbenchmark-dev liblemon-dev libboost-dev geographiclib-tools
     coinor-libclp-dev coinor-cbc libglpk-dev clang clang-format libclang-rt-dev xvfb xauth xdotool x11-utils openbox
     imagemagick poppler-utils procps"
 
@@ -25,6 +25,13 @@ install_missing() {
     $as_root apt-get update -qq
     # shellcheck disable=SC2086 # a list of words
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
+}
+
+# Where ccache is installed, what one preset has compiled serves the next one, and another working copy.
+use_compiler_cache() {
+    command -v ccache >/dev/null || return 0
+    export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$PWD}" CCACHE_NOHASHDIR=1
 }
 
 # Configures and builds a preset, with or without the tests (ON or OFF); further arguments go to the build.

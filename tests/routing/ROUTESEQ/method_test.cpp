@@ -120,7 +120,8 @@ bool visitsAll(Stops stops, int count) {
 TEST(ShortSequence, VisitsEachStopOnce) {
     for (unsigned seed = 1; seed <= 1000; ++seed) {
         const int stops = 1 + static_cast<int>(seed % 50);
-        ASSERT_TRUE(visitsAll(sequenceOf(randomStops(stops, static_cast<Pattern>(seed % 5), seed)), stops))
+        ASSERT_TRUE(visitsAll(
+            sequenceOf(randomStops(stops, static_cast<Pattern>(seed % tests::patterns), seed)), stops))
             << seed;
     }
 }
@@ -128,7 +129,8 @@ TEST(ShortSequence, VisitsEachStopOnce) {
 TEST(ShortSequence, IsThatOfThePlainLoops) {
     for (unsigned seed = 1; seed <= 1000; ++seed) {
         const int stops = 1 + static_cast<int>(seed * 7919 % 50);
-        const StopSequencingProblem problem = randomStops(stops, static_cast<Pattern>(seed % 5), seed);
+        const StopSequencingProblem problem =
+            randomStops(stops, static_cast<Pattern>(seed % tests::patterns), seed);
         ASSERT_EQ(sequenceOf(problem), tests::plainSequence(problem)) << seed;
     }
 }

@@ -131,11 +131,12 @@ class PlainSequencer {
         return (y_[k] <= lineK && y_[p] <= lineP) || (y_[k] >= lineK && y_[p] >= lineP);
     }
 
+    /// The sides are taken round the triangle: an almost upright one is where its first end is.
     bool triangleHoldsAPoint(std::size_t a, std::size_t b, std::size_t k) const {
         if (same(a, b) || same(b, k) || same(a, k)) return false;
         for (std::size_t p = 1; p <= n_; ++p) {
             if (p == a || p == b || p == k || same(p, a) || same(p, b) || same(p, k)) continue;
-            if (beside(a, b, k, p) && beside(b, k, a, p) && beside(a, k, b, p)) return true;
+            if (beside(a, b, k, p) && beside(b, k, a, p) && beside(k, a, b, p)) return true;
         }
         return false;
     }

@@ -1,5 +1,6 @@
 #include "tests/routing/ROUTESEQ/stops.h"
 
+#include <iterator>
 #include <random>
 
 namespace vantore::routeseq::tests {
@@ -16,6 +17,13 @@ double whole(Random& random, int most) {
     return static_cast<double>(random() % static_cast<unsigned>(most + 1));
 }
 
+/// A whole number, moved by about as much as the method takes for nothing.
+double nearly(Random& random) {
+    constexpr double hairs[] = {0, 0, 3E-8, -3E-8, 2E-7, 3E-6, 9E-6, 2E-5};
+    const double number = whole(random, 4);
+    return number + hairs[random() % std::size(hairs)];
+}
+
 Spot spotOf(Pattern pattern, Random& random) {
     switch (pattern) {
     case Pattern::Scattered: return {within(random, 100), within(random, 100)};
@@ -26,6 +34,7 @@ Spot spotOf(Pattern pattern, Random& random) {
         return {x + within(random, 3), y + within(random, 3)};
     }
     case Pattern::Street: return {whole(random, 60), random() % 6 == 0 ? 1.0 : 0.0};
+    case Pattern::Hairline: return {nearly(random), nearly(random)};
     case Pattern::Far: return {80000 + within(random, 60000), within(random, 60000)};
     }
     return {};

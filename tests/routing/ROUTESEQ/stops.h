@@ -15,7 +15,8 @@ struct Spot {
 StopSequencingProblem stopsAt(Spot depot, std::initializer_list<Spot> stops);
 
 /// How the stops of a random problem lie.
-enum class Pattern { Scattered, Grid, Clusters, Street, Far };
+enum class Pattern { Scattered, Grid, Clusters, Street, Far, Hairline };
+constexpr unsigned patterns = 6;
 
 StopSequencingProblem randomStops(int stops, Pattern pattern, unsigned seed);
 
