@@ -10,14 +10,14 @@ namespace vantore::optmzr {
 namespace {
 
 constexpr double never = std::numeric_limits<double>::infinity();
-constexpr double tick = 1.0 / (1 << 20); // minutes: what a start is past a break's time at least
+constexpr double tick = 0x1p-24; // minutes: what a start is past a break's time at least
 
 /// A span of starts in which the same breaks are taken at the same arrivals.
 struct Phase {
     double from = 0;
     double until = never;
     double breakMinutes = 0;
-    std::vector<double> arrivals; ///< minutes after the start, breaks included
+    std::span<const double> arrivals; ///< minutes after the start, breaks included
 };
 
 /// Follows the route from phase to phase.
@@ -42,9 +42,10 @@ class Phases {
     void follow() {
         phase_.until = never;
         phase_.breakMinutes = 0;
-        phase_.arrivals.assign(route_.arrivals.begin(), route_.arrivals.end());
+        arrivals_.assign(route_.arrivals.begin(), route_.arrivals.end());
+        phase_.arrivals = arrivals_;
         std::array<bool, router::breakCount> isTaken{};
-        for (std::size_t i = 0; i < phase_.arrivals.size(); ++i) {
+        for (std::size_t i = 0; i < arrivals_.size(); ++i) {
             for (std::size_t k = 0; k < clock_.breaks.size(); ++k) {
                 const double after = phase_.from + route_.arrivals[i] + phase_.breakMinutes;
                 const double left = clock_.breaks[k].beginsAfter - after;
@@ -56,23 +57,24 @@ class Phases {
                     phase_.until = std::min(phase_.until, phase_.from + left);
                 }
             }
-            phase_.arrivals[i] += phase_.breakMinutes;
+            arrivals_[i] += phase_.breakMinutes;
         }
     }
 
     const Clock& clock_;
     const TimedRoute& route_;
+    std::vector<double> arrivals_;
     Phase phase_;
 };
 
 /// The starts of a phase that keep all windows, and what is left when there are none.
 class Windows {
   public:
-    Windows(const Clock& clock, const TimedRoute& route, const Phase& phase)
+    Windows(const Clock& clock, const TimedRoute& route, Phase phase)
         : route_(route), phase_(phase), latestReturn_(clock.latestReturn) {}
 
     Timing best() const {
-        Window starts = startsForWholeDays();
+        const Window starts = startsForWholeDays();
         if (starts.begin > starts.end) return leastExcess(starts);
         if (!hasSplitHours()) return timing(starts);
         const std::vector<Window> kept = startsForAllWindows(starts);
@@ -161,13 +163,13 @@ class Windows {
     }
 
     const TimedRoute& route_;
-    const Phase& phase_;
+    Phase phase_;
     double latestReturn_;
 };
 
-/// The clock without its breaks, and the route's arrivals as they stand.
+/// What there is where no breaks are.
 Phase onlyPhase(const Clock& clock, const TimedRoute& route) {
-    return {.from = clock.earliestStart, .arrivals = {route.arrivals.begin(), route.arrivals.end()}};
+    return {.from = clock.earliestStart, .arrivals = route.arrivals};
 }
 
 } // namespace
