@@ -59,12 +59,14 @@ Vantage stepped(Vantage from, char step) {
     return from;
 }
 
-PlotTransform::PlotTransform(std::span<const MapPoint> points, Vantage vantage) {
+PlotTransform::PlotTransform(std::span<const MapPoint> points, Vantage vantage, GridCorner corner) {
     const Extremes extremes = extremesOf(points);
-    left_ = extremes.smallest.x;
-    top_ = extremes.largest.y;
-    unit_ = vantage.zoom * scaleFor(finite(extremes.largest.x - extremes.smallest.x),
-                                    finite(extremes.largest.y - extremes.smallest.y));
+    const double unit = vantage.zoom * scaleFor(finite(extremes.largest.x - extremes.smallest.x),
+                                                finite(extremes.largest.y - extremes.smallest.y));
+    reference_.x = corner.east ? extremes.largest.x : extremes.smallest.x;
+    reference_.y = corner.north ? extremes.smallest.y : extremes.largest.y;
+    unitX_ = corner.east ? -unit : unit;
+    unitY_ = corner.north ? unit : -unit;
     if (points.empty()) return;
     SurfacePoint first = unmoved(points.front());
     SurfacePoint last = first;
@@ -78,7 +80,7 @@ PlotTransform::PlotTransform(std::span<const MapPoint> points, Vantage vantage) 
 }
 
 SurfacePoint PlotTransform::unmoved(MapPoint point) const {
-    return {finite((point.x - left_) * unit_), finite((top_ - point.y) * unit_)};
+    return {finite((point.x - reference_.x) * unitX_), finite((point.y - reference_.y) * unitY_)};
 }
 
 SurfacePoint PlotTransform::operator()(MapPoint point) const {

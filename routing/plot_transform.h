@@ -13,6 +13,13 @@ struct MapPoint {
     double y = 0;
 };
 
+/// The corner of the map in which its coordinates begin. From an eastern one x grows to the west, from a
+/// northern one y grows to the south.
+struct GridCorner {
+    bool east = false;
+    bool north = false;
+};
+
 /// A point of the surface in units of the 800x600 design, from the top left.
 struct SurfacePoint {
     double x = 0;
@@ -38,7 +45,7 @@ class PlotTransform {
   public:
     /// `points` are all that the map shows. The drawing area is 632 units wide and 448 high, its centre at
     /// (320, 232). Where all points lie on one place the scale is 1.
-    PlotTransform(std::span<const MapPoint> points, Vantage vantage);
+    PlotTransform(std::span<const MapPoint> points, Vantage vantage, GridCorner corner = {});
 
     /// Overflow beyond the double range.
     SurfacePoint operator()(MapPoint point) const;
@@ -46,9 +53,9 @@ class PlotTransform {
   private:
     SurfacePoint unmoved(MapPoint point) const;
 
-    double left_;
-    double top_;
-    double unit_;        // units of the design for one of the map's
+    MapPoint reference_; // the point of the surface's top left
+    double unitX_;       // units of the design for one of the map's, by the way in which it grows
+    double unitY_;
     SurfacePoint shift_; // from the place that the scale gives to the one on the surface
 };
 

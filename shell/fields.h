@@ -26,12 +26,12 @@ class Fields {
 
     /// Shows the members in their boxes, numbers as their default texts. Nobody is told.
     void show(const Record& record) const {
-        for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->show(textOf(record, fields_[i]));
+        for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->show(fieldText(record, fields_[i]));
     }
 
     /// The same, each box telling of its change.
     void set(const Record& record) const {
-        for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(textOf(record, fields_[i]));
+        for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->setText(fieldText(record, fields_[i]));
     }
 
     /// Takes the members from their boxes, numbers by `val`.
@@ -40,17 +40,12 @@ class Fields {
             if (const auto* text = std::get_if<std::string Record::*>(&fields_[i])) {
                 record.** text = boxes_[i]->text();
             } else {
-                record.*std::get<double Record::*>(fields_[i]) = val(boxes_[i]->text());
+                setNumber(record, fields_[i], val(boxes_[i]->text()));
             }
         }
     }
 
   private:
-    static std::string textOf(const Record& record, const Field<Record>& field) {
-        if (const auto* text = std::get_if<std::string Record::*>(&field)) return record.**text;
-        return defaultText(record.*std::get<double Record::*>(field));
-    }
-
     std::span<const Field<Record>> fields_;
     std::vector<TextBox*> boxes_;
 };

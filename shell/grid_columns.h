@@ -39,36 +39,33 @@ class GridColumns {
         for (const ColumnHeading& heading : headings) masks_.push_back(heading.mask);
         grid.holdsNumbers = [fields](int col) {
             return col >= 1 && col <= static_cast<int>(fields.size()) &&
-                   std::holds_alternative<double Record::*>(fields[static_cast<std::size_t>(col - 1)]);
+                   !isText(fields[static_cast<std::size_t>(col - 1)]);
         };
     }
 
     /// Puts a record into a row, numbers under their columns' masks.
     void put(int row, const Record& record) const {
-        for (std::size_t i = 0; i < fields_.size(); ++i) {
-            const auto* text = std::get_if<std::string Record::*>(&fields_[i]);
-            grid_->setCell(row, static_cast<int>(i) + 1,
-                           text != nullptr
-                               ? record.**text
-                               : shown(record.*std::get<double Record::*>(fields_[i]), masks_[i + 1]));
-        }
+        for (std::size_t i = 0; i < fields_.size(); ++i)
+            grid_->setCell(row, static_cast<int>(i) + 1, shown(record, fields_[i], masks_[i + 1]));
     }
 
-    /// Takes a record from a row: texts without blanks at their ends, numbers by `val`.
+    /// Takes a record from a row: texts without blanks at their ends, numbers by `val`. Overflow for a whole
+    /// number beyond 16 bits.
     void take(int row, Record& record) const {
         for (std::size_t i = 0; i < fields_.size(); ++i) {
             const std::string& cell = grid_->cell(row, static_cast<int>(i) + 1);
             if (const auto* text = std::get_if<std::string Record::*>(&fields_[i])) {
                 record.** text = trimmed(cell);
             } else {
-                record.*std::get<double Record::*>(fields_[i]) = val(cell);
+                setNumber(record, fields_[i], val(cell));
             }
         }
     }
 
   private:
-    static std::string shown(double number, const std::string& mask) {
-        return mask.empty() ? defaultText(number) : format(number, mask);
+    static std::string shown(const Record& record, const Field<Record>& field, const std::string& mask) {
+        const auto* number = std::get_if<double Record::*>(&field);
+        return number != nullptr && !mask.empty() ? format(record.**number, mask) : fieldText(record, field);
     }
 
     DataGrid* grid_ = nullptr;

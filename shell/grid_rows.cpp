@@ -61,10 +61,9 @@ void GridRows::counted() const {
 }
 
 void GridRows::add() {
-    if (grid_.row() < 1) return suite_.messageBx("Select a grid row before adding a record.", titles_.noRow);
+    if (grid_.row() < 1) return suite_.messageBx(titles_.noRowText, titles_.noRow);
     if (grid_.rowCount() + 1 > limit_) return reportLimit();
-    const bool atEnd = suite_.asksYes(
-        "Insert at end of list?  If no, insertion is at the designated grid row.", titles_.question);
+    const bool atEnd = suite_.asksYes(titles_.questionText, titles_.question);
     const int position = atEnd ? grid_.rowCount() + 1 : grid_.row();
     if (grid_.rowCount() == 0) {
         takeBlankRow(grid_);
@@ -77,7 +76,7 @@ void GridRows::add() {
 
 void GridRows::remove() {
     if (grid_.rowCount() - 1 < 0) return;
-    if (grid_.row() < 1) return suite_.messageBx("Select a row to be deleted.", titles_.noDelete);
+    if (grid_.row() < 1) return suite_.messageBx(titles_.noDeleteText, titles_.noDelete);
     grid_.setRowCount(std::max(grid_.rowCount() - 1, 0));
     if (grid_.rowCount() == 0) {
         grid_.clearRow(1);

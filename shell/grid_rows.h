@@ -8,13 +8,17 @@
 
 namespace vantore {
 
-/// Titles of the boxes that tell about rows. Empty ones are the module's name.
+/// Titles of the boxes that tell about rows, empty ones being the module's name, and the texts that not every
+/// module words alike.
 struct RowTitles {
     std::string question = {};             ///< "Insert at end of list? ..."
     std::string noRow = "Information";     ///< "Select a grid row before adding a record."
     std::string limit = "Add a Row";       ///< "Too many rows.  Limit is 500"
     std::string noDelete = "Delete a Row"; ///< "Select a row to be deleted."
     std::string empty = "Information";     ///< "Add a row before entering data."
+    std::string questionText = "Insert at end of list?  If no, insertion is at the designated grid row.";
+    std::string noRowText = "Select a grid row before adding a record.";
+    std::string noDeleteText = "Select a row to be deleted.";
 };
 
 /// The rows of a grid that a user adds, deletes and types in, as every module does it. The grid's `rowCount`

@@ -136,13 +136,13 @@ SizeBox& ModuleFrame::addRowCountBox(TextBox& box, GridRows& rows, std::function
     return sizeBox;
 }
 
-void ModuleFrame::addStart(const std::string& openButton, Rect place) {
+void ModuleFrame::addStart(const std::string& openButton, Rect place, const std::string& labelName) {
     auto& picture =
         add<Picture>("Image1", Rect{place.left, place.top, place.width, place.height - startLabelHeight});
     picture.image = wording_.name;
     seenIn(picture, {View::Start});
     auto& label = addLabel(
-        "lblStart",
+        labelName,
         "Open a file to begin processing. Look for example files in the directory " + suite().installFolder,
         {place.left, place.bottom() - startLabelHeight, place.width, startLabelHeight}, {View::Start});
     label.alignment = Alignment::Centre;

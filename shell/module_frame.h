@@ -172,7 +172,8 @@ class ModuleFrame : public SuiteWindow {
     SizeBox& addRowCountBox(TextBox& box, GridRows& rows, std::function<void()> onExcess);
 
     /// The start picture with the label under it, and the Open button at its usual place.
-    void addStart(const std::string& openButton = "cmdOpen", Rect place = {1200, 1000, 7200, 5200});
+    void addStart(const std::string& openButton = "cmdOpen", Rect place = {1200, 1000, 7200, 5200},
+                  const std::string& label = "lblStart");
 
     /// Save, Solve, Print data, Exit and Excel edit at their usual places, and those that grids with rows
     /// have. An empty name leaves one out.

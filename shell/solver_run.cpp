@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "shell/base/solver_progress.h"
 #include "shell/base/text_file.h"
 
 namespace vantore {
@@ -23,13 +24,15 @@ std::string elapsedText(Clock::duration elapsed) {
 }
 
 /// What a window is like while a solver runs: the hourglass and a note. However the run ends, the window is
-/// as before.
+/// as before, and what the solver has told of its progress is gone.
 class WindowWhileRunning {
   public:
     WindowWhileRunning(Suite& suite, Form& window) : suite_(suite), window_(window) {
         suite.platform.display.setBusyPointer(true);
+        removeProgress(pathOf(suite.ioFolder));
     }
     ~WindowWhileRunning() {
+        removeProgress(pathOf(suite_.ioFolder));
         window_.runningNote.clear();
         suite_.platform.display.setBusyPointer(false);
     }
@@ -123,10 +126,12 @@ void SolverRun::await(const std::string& program) {
     const auto started = Clock::now();
     while (program_->running()) {
         const std::string time = elapsedText(Clock::now() - started);
+        const std::string progress = readProgress(pathOf(suite_.ioFolder));
         window_.runningNote =
             interrupted_ ? program + " is stopping, " + time + ".  Press Ctrl+C again to end it at once."
                          : program + " is running, " + time +
                                ".  Press Ctrl+C to stop it with the best solution so far.";
+        if (!progress.empty()) window_.runningNote += "  " + progress;
         suite_.platform.display.processEvents();
     }
 }

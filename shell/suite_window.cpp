@@ -15,6 +15,8 @@ void SuiteWindow::run(const Control& control, const std::function<void()>& handl
         throw;
     } catch (const std::bad_alloc&) {
         reportFailure("Out of memory" + errorPlace(control));
+    } catch (const RuntimeError& error) {
+        reportFailure(errorWords(error, control) + errorPlace(control));
     } catch (const std::exception& error) {
         reportFailure(error.what() + errorPlace(control));
     }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "shell/base/runtime_error.h"
 #include "shell/forms/form.h"
 #include "shell/suite.h"
 
@@ -21,6 +22,11 @@ class SuiteWindow : public Form {
     /// The title of a run-time error's box, and what follows the error's text in it.
     virtual std::string errorTitle() const = 0;
     virtual std::string errorPlace(const Control& control) const;
+
+    /// A run-time error as its box tells it before the place: its text.
+    virtual std::string errorWords(const RuntimeError& error, const Control& /*control*/) const {
+        return error.what();
+    }
 
     void message(const std::string& text, const std::string& title) { suite_.messageBx(text, title); }
 

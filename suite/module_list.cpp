@@ -15,6 +15,7 @@
 #include "mathprog/TRANLP/TRANLP.h"
 #include "routing/Distance/Distance.h"
 #include "routing/ROUTE/ROUTE.h"
+#include "routing/ROUTER/ROUTER.h"
 #include "routing/ROUTESEQ/ROUTESEQ.h"
 #include "simulator/SCSIM/SCSim.h"
 
@@ -46,6 +47,7 @@ std::vector<ModuleEntry> moduleList() {
         entry<distance::Distance>("MILES"),
         entry<route::ROUTE>("ROUTE"),
         entry<routeseq::ROUTESEQ>("ROUTESEQ"),
+        entry<router::ROUTER>("ROUTER"),
     };
 }
 

@@ -1,9 +1,9 @@
 #include "routing/ROUTE/ROUTE.h"
 
-#include <cstdlib>
 #include <vector>
 
 #include "routing/ROUTE/report.h"
+#include "routing/plot_steps.h"
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
@@ -105,11 +105,7 @@ void ROUTE::addArcList() {
 void ROUTE::addPlot() {
     picOut = &add<PictureSurface>("picOut", surfacePlace, scale());
     seenIn(*picOut, {View::Plot});
-    picOut->onZoom = [this](int steps) { step(steps > 0 ? '+' : '-', std::abs(steps)); };
-    picOut->onPan = [this](int right, int down) {
-        step(right > 0 ? 'R' : 'L', std::abs(right));
-        step(down > 0 ? 'D' : 'U', std::abs(down));
-    };
+    routing::followSteps(*picOut, [this](char which, int times) { step(which, times); });
     addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); }).tip =
         "Graphically display solution";
     addOutcomeButtons({View::Report, View::Plot}, "cmdPrintRtb");
@@ -234,12 +230,7 @@ void ROUTE::askPath() {
 }
 
 void ROUTE::askZoom() {
-    const std::string answer =
-        trimmed(suite().inputBx("Change picture size:\r\n+ to increase size\r\n-  to decrease size\r\n"
-                                "U to scroll up\r\nD to scroll down\r\nL to scroll left\r\n"
-                                "R to scroll right\r\nO to restore original picture size",
-                                "Zoom control", "Enter selection"));
-    if (answer.size() == 1) step(answer.front(), 1);
+    if (const auto which = routing::askStep(suite())) step(*which, 1);
 }
 
 void ROUTE::step(char step, int times) {

@@ -1,9 +1,8 @@
 #include "routing/ROUTESEQ/ROUTESEQ.h"
 
-#include <cstdlib>
-
 #include "routing/ROUTESEQ/method.h"
 #include "routing/ROUTESEQ/report.h"
+#include "routing/plot_steps.h"
 #include "shell/base/number_text.h"
 #include "shell/printing.h"
 
@@ -73,11 +72,7 @@ void ROUTESEQ::addControls() {
 void ROUTESEQ::addPlot() {
     picOut = &add<PictureSurface>("picOut", surfacePlace, scale());
     seenIn(*picOut, {View::Plot});
-    picOut->onZoom = [this](int steps) { step(steps > 0 ? '+' : '-', std::abs(steps)); };
-    picOut->onPan = [this](int right, int down) {
-        step(right > 0 ? 'R' : 'L', std::abs(right));
-        step(down > 0 ? 'D' : 'U', std::abs(down));
-    };
+    routing::followSteps(*picOut, [this](char which, int times) { step(which, times); });
     addOutcomeButtons({View::Report, View::Plot}, "cmdPrintTB");
     addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data, View::Report}, [this] { plot(); });
     addPrintPlot();

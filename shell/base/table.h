@@ -54,6 +54,10 @@ class CountedTable {
     int count() const { return static_cast<int>(items_.size()); }
     void add(T item) { items_.push_back(std::move(item)); }
 
+    T& operator()(long long index) {
+        checkIndex(index, 1, count());
+        return items_[static_cast<std::size_t>(index - 1)];
+    }
     const T& operator()(long long index) const {
         checkIndex(index, 1, count());
         return items_[static_cast<std::size_t>(index - 1)];

@@ -31,6 +31,13 @@ class ReportScreen : public Control {
 
     const std::vector<ReportLine>& lines() const { return lines_; }
 
+    /// The lines, each ended by CR LF.
+    std::string shownText() const override {
+        std::string text;
+        for (const ReportLine& line : lines_) text += line.text + "\r\n";
+        return text;
+    }
+
     /// Another number whenever the report has been begun anew; lines are only added to one.
     int writing() const { return writing_; }
 

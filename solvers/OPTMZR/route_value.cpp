@@ -1,0 +1,111 @@
+#include "solvers/OPTMZR/route_value.h"
+
+#include <algorithm>
+
+namespace vantore::optmzr {
+
+namespace {
+
+double above(double value, double limit) {
+    return std::max(0.0, value - limit);
+}
+
+double overload(Load load, Load capacity) {
+    return above(load.weight, capacity.weight) + above(load.cube, capacity.cube);
+}
+
+} // namespace
+
+Penalties Penalties::times(double factor) const {
+    return {load * factor, minutes * factor, distance * factor, share * factor, vehicle * factor};
+}
+
+RouteSums sumsOf(const Instance& instance, std::span<const int> stops) {
+    RouteSums sums;
+    int before = router::depotNumber;
+    for (const int stop : stops) {
+        const Customer& customer = instance.customer(stop);
+        sums.distance += instance.distance(before, stop);
+        sums.minutes += instance.minutes(before, stop) + customer.minutes;
+        sums.delivered += customer.delivered;
+        sums.pickedUp += customer.pickedUp;
+        before = stop;
+    }
+    sums.distance += instance.distance(before, router::depotNumber);
+    sums.minutes += instance.minutes(before, router::depotNumber);
+    return sums;
+}
+
+void RouteJudge::penalise(RouteValue& value) const {
+    value.penalised = value.cost + penalties_.load * value.load + penalties_.minutes * value.minutes +
+                      penalties_.distance * value.distance + penalties_.share * value.share;
+}
+
+RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
+    RouteValue value;
+    value.cost = instance_.routeCost(fleet, sums.distance, sums.minutes);
+    const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
+                    std::max(sums.delivered.cube, sums.pickedUp.cube)};
+    value.load = overload(most, fleet.capacity);
+    value.minutes = above(sums.minutes, instance_.maxMinutes) +
+                    above(instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn);
+    value.distance = above(sums.distance, instance_.maxDistance);
+    penalise(value);
+    return value;
+}
+
+RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops) {
+    RouteValue value = bound(fleet, sums);
+    if (stops.empty()) return value;
+    if (instance_.loadsMix) carry(fleet, sums, stops, value);
+    if (instance_.clockMatters) {
+        const Timing timing = timed(stops);
+        const double minutes = sums.minutes + timing.breakMinutes;
+        value.cost = instance_.routeCost(fleet, sums.distance, minutes);
+        value.minutes = above(minutes, instance_.maxMinutes) + timing.excess();
+    }
+    penalise(value);
+    return value;
+}
+
+/// What is on board from the start, and what is left of it at each pickup.
+void RouteJudge::carry(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
+                       RouteValue& value) const {
+    Load left = sums.delivered;
+    Load onBoard = left;
+    Load most = onBoard;
+    Load leftAtPickup;
+    for (const int stop : stops) {
+        const Customer& customer = instance_.customer(stop);
+        if (customer.isPickup) {
+            leftAtPickup.weight = std::max(leftAtPickup.weight, left.weight);
+            leftAtPickup.cube = std::max(leftAtPickup.cube, left.cube);
+        }
+        left = left - customer.delivered;
+        onBoard = onBoard - customer.delivered + customer.pickedUp;
+        most.weight = std::max(most.weight, onBoard.weight);
+        most.cube = std::max(most.cube, onBoard.cube);
+    }
+    value.load = overload(most, fleet.capacity);
+    const Load allowed{fleet.capacity.weight * instance_.pickupShare,
+                       fleet.capacity.cube * instance_.pickupShare};
+    value.share = instance_.pickupShare >= 1 ? 0 : overload(leftAtPickup, allowed);
+}
+
+Timing RouteJudge::timed(std::span<const int> stops) {
+    arrivals_.clear();
+    open_.clear();
+    double after = 0;
+    int before = router::depotNumber;
+    for (const int stop : stops) {
+        after += instance_.minutes(before, stop);
+        arrivals_.push_back(after);
+        open_.push_back(&instance_.customer(stop).open);
+        after += instance_.customer(stop).minutes;
+        before = stop;
+    }
+    arrivals_.push_back(after + instance_.minutes(before, router::depotNumber));
+    return bestTiming(instance_.clock, {arrivals_, open_});
+}
+
+} // namespace vantore::optmzr

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "solvers/OPTMZR/instance.h"
+
+namespace vantore::optmzr {
+
+/// What a route comes to: its cost, and by how much it goes beyond its limits.
+struct RouteValue {
+    double cost = 0;
+    double load = 0;     ///< on board beyond the capacity, weight and cube together
+    double minutes = 0;  ///< beyond windows, latest return and longest time
+    double distance = 0; ///< beyond the longest distance
+    double share = 0;    ///< still to be delivered at a pickup, beyond what is allowed
+    double penalised = 0;
+
+    double excess() const { return load + minutes + distance + share; }
+};
+
+/// What a unit of each excess costs in the search.
+struct Penalties {
+    double load = 1;
+    double minutes = 1;
+    double distance = 1;
+    double share = 1;
+    double vehicle = 1; ///< that there isn't
+
+    Penalties times(double factor) const;
+};
+
+/// What a route takes, whatever the order of its parts is timed like: the sums over its legs and stops.
+struct RouteSums {
+    double distance = 0;
+    double minutes = 0; ///< without breaks
+    Load delivered;
+    Load pickedUp;
+};
+
+/// The sums of a route through these stops.
+RouteSums sumsOf(const Instance& instance, std::span<const int> stops);
+
+/// Puts a value on routes.
+class RouteJudge {
+  public:
+    RouteJudge(const Instance& instance, const Penalties& penalties)
+        : instance_(instance), penalties_(penalties) {}
+
+    /// Whether the order of the stops counts beyond the sums.
+    bool orderMatters() const { return instance_.clockMatters || instance_.loadsMix; }
+
+    /// What no order of stops with these sums can be better than; the value itself where the order doesn't
+    /// matter.
+    RouteValue bound(const Fleet& fleet, const RouteSums& sums) const;
+
+    RouteValue value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops);
+
+    const Penalties& penalties() const { return penalties_; }
+    void setPenalties(const Penalties& penalties) { penalties_ = penalties; }
+
+  private:
+    void carry(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
+               RouteValue& value) const;
+    Timing timed(std::span<const int> stops);
+    void penalise(RouteValue& value) const;
+
+    const Instance& instance_;
+    Penalties penalties_;
+    std::vector<double> arrivals_;
+    std::vector<const OpeningHours*> open_;
+};
+
+} // namespace vantore::optmzr
