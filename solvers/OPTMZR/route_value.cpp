@@ -54,42 +54,50 @@ RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
     return value;
 }
 
-RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops) {
+RouteOrder RouteJudge::order(const RouteSums& sums, std::span<const int> stops) {
+    RouteOrder order;
+    if (instance_.loadsMix) carry(sums, stops, order);
+    if (instance_.clockMatters) order.timing = timed(stops);
+    return order;
+}
+
+RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order) const {
     RouteValue value = bound(fleet, sums);
-    if (stops.empty()) return value;
-    if (instance_.loadsMix) carry(fleet, sums, stops, value);
+    if (instance_.loadsMix) {
+        value.load = overload(order.onBoard, fleet.capacity);
+        const Load allowed{fleet.capacity.weight * instance_.pickupShare,
+                           fleet.capacity.cube * instance_.pickupShare};
+        value.share = instance_.pickupShare >= 1 ? 0 : overload(order.leftAtPickup, allowed);
+    }
     if (instance_.clockMatters) {
-        const Timing timing = timed(stops);
-        const double minutes = sums.minutes + timing.breakMinutes;
+        const double minutes = sums.minutes + order.timing.breakMinutes;
         value.cost = instance_.routeCost(fleet, sums.distance, minutes);
-        value.minutes = above(minutes, instance_.maxMinutes) + timing.excess();
+        value.minutes = above(minutes, instance_.maxMinutes) + order.timing.excess();
     }
     penalise(value);
     return value;
 }
 
+RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops) {
+    return orderMatters() ? value(fleet, sums, order(sums, stops)) : bound(fleet, sums);
+}
+
 /// What is on board from the start, and what is left of it at each pickup.
-void RouteJudge::carry(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
-                       RouteValue& value) const {
+void RouteJudge::carry(const RouteSums& sums, std::span<const int> stops, RouteOrder& order) const {
     Load left = sums.delivered;
     Load onBoard = left;
-    Load most = onBoard;
-    Load leftAtPickup;
+    order.onBoard = onBoard;
     for (const int stop : stops) {
         const Customer& customer = instance_.customer(stop);
         if (customer.isPickup) {
-            leftAtPickup.weight = std::max(leftAtPickup.weight, left.weight);
-            leftAtPickup.cube = std::max(leftAtPickup.cube, left.cube);
+            order.leftAtPickup.weight = std::max(order.leftAtPickup.weight, left.weight);
+            order.leftAtPickup.cube = std::max(order.leftAtPickup.cube, left.cube);
         }
         left = left - customer.delivered;
         onBoard = onBoard - customer.delivered + customer.pickedUp;
-        most.weight = std::max(most.weight, onBoard.weight);
-        most.cube = std::max(most.cube, onBoard.cube);
+        order.onBoard.weight = std::max(order.onBoard.weight, onBoard.weight);
+        order.onBoard.cube = std::max(order.onBoard.cube, onBoard.cube);
     }
-    value.load = overload(most, fleet.capacity);
-    const Load allowed{fleet.capacity.weight * instance_.pickupShare,
-                       fleet.capacity.cube * instance_.pickupShare};
-    value.share = instance_.pickupShare >= 1 ? 0 : overload(leftAtPickup, allowed);
 }
 
 Timing RouteJudge::timed(std::span<const int> stops) {

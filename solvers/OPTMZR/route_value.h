@@ -38,6 +38,13 @@ struct RouteSums {
     Load pickedUp;
 };
 
+/// What the order of a route's stops makes of them, in any vehicle.
+struct RouteOrder {
+    Load onBoard;      ///< the most on the way
+    Load leftAtPickup; ///< the most that is still to be delivered when something is picked up
+    Timing timing;
+};
+
 /// The sums of a route through these stops.
 RouteSums sumsOf(const Instance& instance, std::span<const int> stops);
 
@@ -54,14 +61,15 @@ class RouteJudge {
     /// matter.
     RouteValue bound(const Fleet& fleet, const RouteSums& sums) const;
 
+    RouteOrder order(const RouteSums& sums, std::span<const int> stops);
+    RouteValue value(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order) const;
     RouteValue value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops);
 
     const Penalties& penalties() const { return penalties_; }
     void setPenalties(const Penalties& penalties) { penalties_ = penalties; }
 
   private:
-    void carry(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
-               RouteValue& value) const;
+    void carry(const RouteSums& sums, std::span<const int> stops, RouteOrder& order) const;
     Timing timed(std::span<const int> stops);
     void penalise(RouteValue& value) const;
 

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+
+#include "solvers/OPTMZR/local_search.h"
+#include "solvers/OPTMZR/population.h"
+#include "solvers/OPTMZR/split.h"
+
+namespace vantore::optmzr {
+
+/// What the local search made of a solution.
+struct Found {
+    const Solution& solution;
+    const RouteValue& total;
+    int violations = 0;
+};
+
+/// Hybrid genetic search: tours are crossed, cut into routes, improved by the local search and kept in two
+/// populations, of feasible plans and of others. Penalties follow the share of feasible plans. When nothing
+/// better has come for long it begins anew, until its steps are used up.
+/// Source: Vidal, "Hybrid genetic search for the CVRP: open-source implementation and SWAP* neighborhood"
+/// (2022).
+class GeneticSearch {
+  public:
+    GeneticSearch(const Instance& instance, std::function<void(const Found&)> onFound);
+
+    void run();
+
+  private:
+    /// How many of the last plans kept a kind of limit.
+    struct Kept {
+        int load = 0, minutes = 0, distance = 0, share = 0, vehicle = 0;
+        int plans = 0;
+    };
+
+    void begin();
+    void addRandom();
+    void breed();
+    const Individual& parent();
+    std::vector<int> crossed(const std::vector<int>& a, const std::vector<int>& b);
+    void sortAround(Solution& solution) const;
+    void educate(Solution solution);
+    void note(const RouteValue& total, int missing);
+    void adaptPenalties();
+    long long work() const { return search_.work() + split_.work(); }
+    bool isOver() const { return work() >= budget_; }
+
+    const Instance& instance_;
+    std::function<void(const Found&)> onFound_;
+    LocalSearch search_;
+    Split split_;
+    Population feasible_, infeasible_;
+    Penalties penalties_;
+    Kept kept_;
+    Dice dice_{1};
+    long long budget_;
+    int sinceBetter_ = 0;
+    double best_;
+};
+
+/// The penalties to begin with: an excess of the size of the largest load, of an hour or of the longest leg
+/// costs what the dearest leg does.
+Penalties firstPenalties(const Instance& instance);
+
+} // namespace vantore::optmzr
