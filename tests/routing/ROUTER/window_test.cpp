@@ -2,12 +2,16 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <string>
 #include <utility>
 
+#include "routing/ROUTER/plan.h"
 #include "routing/ROUTER/problem.h"
 #include "shell/base/text.h"
+#include "tests/support/error_of.h"
 #include "tests/support/form_faults.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/module_session.h"
 
 namespace vantore::tests {
@@ -535,6 +539,67 @@ TEST_F(RouterWindow, AsksWhetherToPrintThePlot) {
         lines(session.play("answer No\npress cmdPrintPlot")).at(0),
         "YesNoBx \"ROUTER\": \"Select YES to print.  Alternately, choose NO to copy image to the clipboard\" "
         "-> No");
+}
+
+// Damaged files and places that can't be written
+
+TEST_F(RouterWindow, MeetsADamagedPlanWithAMessageAtMost) {
+    session.play("answer cancel\npress cmdSolve");
+    for (const std::string& content : damagedForms(plan)) {
+        session.writeFile("ROUTE.DAT", content);
+        const std::vector<std::string> plotted = lines(session.play("press cmdPlot"));
+        ASSERT_LE(plotted.size(), 1U) << content;
+        if (plotted.empty()) {
+            session.play("press cmdContinuePlot");
+        } else {
+            EXPECT_TRUE(plotted[0].starts_with("MessageBx \"ROUTER\": ")) << plotted[0];
+        }
+        EXPECT_EQ(session.module().view(), View::Data) << content;
+        EXPECT_EQ(session.readFile("ROUTE.DAT"), content);
+    }
+}
+
+bool isReadable(const std::string& content) {
+    return errorOf([&] {
+               ItemReader reader(decoded(content));
+               readPlan(reader);
+           }) == ErrorNumber{};
+}
+
+TEST_F(RouterWindow, ReportsADamagedPlanOrTellsWhyNot) {
+    session.play("answer cancel\npress cmdSolve");
+    int reports = 0;
+    for (const std::string& content : damagedForms(plan)) {
+        session.writeFile("ROUTE.DAT", content);
+        const std::string told =
+            session.play(isReadable(content) ? "answer A\npress cmdReport" : "press cmdReport");
+        const bool reported = session.module().view() == View::Report;
+        EXPECT_NE(reported, told.find(" occurred in ROUTER,cmdReport") != std::string::npos) << content;
+        if (reported) session.play("press cmdContinue");
+        reports += reported ? 1 : 0;
+    }
+    EXPECT_GT(reports, 0); // other line ends are no damage
+}
+
+TEST_F(RouterWindow, TellsOfAFullDiskAtEachOfItsFiles) {
+    session.writeFile("ROUTE.DAT", plan);
+    session.play("answer cancel\npress cmdSolve");
+    const FullDisk full(16);
+    EXPECT_EQ(session.play("press cmdSolve"),
+              "MessageBx \"ROUTER\": \"Disk full occurred in ROUTER, cmdSolve.\"\n");
+    EXPECT_EQ(lines(session.play("answer A\npress cmdReport")).back(),
+              "MessageBx \"ROUTER\": \"61 Disk full occurred in ROUTER,cmdReport\"");
+    EXPECT_EQ(session.module().view(), View::Data);
+    EXPECT_EQ(session.readFile("ROUTE.DAT"), plan);
+}
+
+TEST_F(RouterWindow, TellsWhenRoutesCannotBeDeleted) {
+    std::filesystem::create_directories(session.ioFolder() / "ROUTE.DAT" / "full");
+    std::filesystem::rename(session.ioFolder() / "ROUTE.DAT", session.ioFolder() / "aside");
+    session.play("press cmdPlot");
+    std::filesystem::rename(session.ioFolder() / "aside", session.ioFolder() / "ROUTE.DAT");
+    EXPECT_EQ(session.play("press cmdClrRoute"),
+              "MessageBx \"ROUTER\": \"Path/File access error occurred in ROUTER, cmdClrRoute.\"\n");
 }
 
 } // namespace
