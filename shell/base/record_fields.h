@@ -42,10 +42,8 @@ void setNumber(Record& record, const Field<Record>& field, double value) {
 
 /// Reads the members of a record in the order of a list. InputPastEnd when the file has no further item,
 /// Overflow for a whole number beyond 16 bits.
-///
-/// Inlined where it is given a constant list, GCC 12 would warn of texts in records that hold none.
 template <class Record>
-[[gnu::noinline]] void readFields(ItemReader& reader, Record& record, std::span<const Field<Record>> fields) {
+void readFields(ItemReader& reader, Record& record, std::span<const Field<Record>> fields) {
     for (const Field<Record>& field : fields) {
         if (const auto* text = std::get_if<std::string Record::*>(&field)) {
             record.** text = reader.readString();
