@@ -208,19 +208,13 @@ void PMED::fillBlankCells() {
 void PMED::solve() {
     hasOutcome_ = false;
     const SolverInput input{readControls(), val(txtNoLoc->text())};
-    const auto writeItems = [&](void (*itemsOf)(const SolverInput&, ItemWriter&)) {
-        ItemWriter writer;
-        itemsOf(input, writer);
-        writeLines(suite().ioPath(solverInput), lines(writer.text()));
+    const auto writeItems = [this](const std::string& text) {
+        writeLines(suite().ioPath(solverInput), lines(text));
     };
-    // The points are written before they are looked at; what is wrong with them leaves the last line out.
-    const SolverJob points{
-        solverProgram,
-        [&] { writeItems([](const SolverInput& in, ItemWriter& writer) { write(in.problem, writer); }); },
-        {}};
-    if (!solver.writeInput(points)) return;
+    // The points are written before they are looked at: what is wrong with them leaves the last line out.
+    if (!solver.writeInput({solverProgram, [&] { writeItems(pointsText(input.problem)); }, {}})) return;
     if (const auto found = fault(input.problem, input.sitesToLocate)) return backToData(*found);
-    if (!solver.run({solverProgram, [&] { writeItems(writeInput); }, {solverOutput}})) return;
+    if (!solver.run({solverProgram, [&] { writeItems(inputText(input)); }, {solverOutput}})) return;
     report->clear();
     showView(View::Report);
     ItemReader reader(readTextFile(suite().ioPath(solverOutput)));
