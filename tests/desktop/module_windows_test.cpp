@@ -33,9 +33,14 @@ const std::vector<ModuleTour>& tours() {
           {"plot", "answer Yes\npress cmdPlot"}}},
         {"FORECAST", "FRC02.dat", {{"report", "press cmdSolve"}, {"plot", "answer 2\npress cmdPlot"}}},
         {"INPOL", "INV01.dat", {{"report", "press cmdSolve"}}},
+        {"LAYOUT", "LOUT01.dat", {{"report", "press cmdSolve"}}},
         {"LNPROG", "FLP01.dat", {{"report", "press cmdSolve"}}},
         {"MIPROG", "ILP01.dat", {}},
         {"MULREG", "REG01.dat", {{"report", "press cmdSolve"}}},
+        {"MULTICOG",
+         "MCOG02.dat",
+         {{"report", "answer 4\nanswer 1\npress cmdSolve"}, {"plot", "answer Yes\npress cmdPlot"}}},
+        {"PMED", "PMED02.dat", {}},
         {"TRANLP", "TRAN01.dat", {{"result", "press cmdSolve"}, {"report", "press cmdReport"}}}};
     return all;
 }
