@@ -1,5 +1,6 @@
 #include "solvers/OPTMZR/search.h"
 
+#include <cmath>
 #include <optional>
 #include <tuple>
 
@@ -24,8 +25,12 @@ class Best {
          const std::function<void(const Plan&)>& betterPlan)
         : problem_(problem), travel_(travel), instance_(instance), betterPlan_(betterPlan) {}
 
+    bool hasBrokenLimits() const { return !best_ || best_->violations > 0; }
+
     void consider(const Found& found) {
-        const Rank rank{found.violations, found.violations == 0 ? 0 : found.total.excess(), found.total.cost};
+        const Rank rank = rankOf(found);
+        if (found.isStrict && !wasStrict_) rank_.reset();
+        wasStrict_ = found.isStrict;
         if (rank_ && !isBefore(rank, *rank_)) return;
         try {
             take(planOf(problem_, travel_, instance_, found.solution), rank);
@@ -37,10 +42,18 @@ class Best {
   private:
     using Rank = std::tuple<int, double, double>; ///< limits broken, by how much, cost, as the search sees it
 
+    static Rank rankOf(const Found& found) {
+        const RouteValue& total = found.total;
+        if (found.isStrict)
+            return {total.misses.count + found.missingVehicles, total.misses.excess + found.missingVehicles,
+                    total.cost};
+        return {found.violations, found.violations == 0 ? 0 : total.excess(), total.cost};
+    }
+
     static bool isBefore(const Rank& a, const Rank& b) {
         constexpr double leastGain = 1E-10;
         if (std::get<0>(a) != std::get<0>(b)) return std::get<0>(a) < std::get<0>(b);
-        if (std::get<1>(a) != std::get<1>(b)) return std::get<1>(a) < std::get<1>(b);
+        if (std::abs(std::get<1>(a) - std::get<1>(b)) > leastGain) return std::get<1>(a) < std::get<1>(b);
         return std::get<2>(a) < std::get<2>(b) - leastGain;
     }
 
@@ -58,6 +71,7 @@ class Best {
     const Instance& instance_;
     const std::function<void(const Plan&)>& betterPlan_;
     std::optional<Rank> rank_;
+    bool wasStrict_ = false;
     std::optional<Judgement> best_;
 };
 
@@ -67,7 +81,9 @@ void search(const Problem& problem, const std::function<void(const Plan&)>& bett
     const router::Travel travel(problem);
     const Instance instance(problem, travel);
     Best best(problem, travel, instance, betterPlan);
-    GeneticSearch(instance, [&best](const Found& found) { best.consider(found); }).run();
+    GeneticSearch genetic(instance, [&best](const Found& found) { best.consider(found); });
+    genetic.run();
+    if (best.hasBrokenLimits()) genetic.runStrictly();
 }
 
 } // namespace vantore::optmzr
