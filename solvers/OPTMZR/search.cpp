@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "shell/base/runtime_error.h"
+#include "solvers/OPTMZR/exhaustive_search.h"
 #include "solvers/OPTMZR/genetic_search.h"
 #include "solvers/OPTMZR/instance.h"
 #include "solvers/OPTMZR/judgement.h"
@@ -17,6 +18,8 @@ using router::Problem;
 
 namespace {
 
+constexpr int mostFleetsTriedOut = 8; // with every order of the stops
+
 /// Picks the best plan out of all that the search comes across. What looks better there is made a plan and
 /// judged by the module's simulation.
 class Best {
@@ -26,6 +29,9 @@ class Best {
         : problem_(problem), travel_(travel), instance_(instance), betterPlan_(betterPlan) {}
 
     bool hasBrokenLimits() const { return !best_ || best_->violations > 0; }
+
+    /// Takes a solution that the search knows to be the best.
+    void take(const Solution& solution) { take(planOf(problem_, travel_, instance_, solution), {}); }
 
     void consider(const Found& found) {
         const Rank rank = rankOf(found);
@@ -81,6 +87,8 @@ void search(const Problem& problem, const std::function<void(const Plan&)>& bett
     const router::Travel travel(problem);
     const Instance instance(problem, travel);
     Best best(problem, travel, instance, betterPlan);
+    if (instance.stopCount <= mostStopsTriedOut && instance.fleetCount() <= mostFleetsTriedOut)
+        return best.take(ExhaustiveSearch(instance).best());
     GeneticSearch genetic(instance, [&best](const Found& found) { best.consider(found); });
     genetic.run();
     if (best.hasBrokenLimits()) genetic.runStrictly();
