@@ -71,12 +71,18 @@ void GeneticSearch::runStrictly() {
 void GeneticSearch::searchOn() {
     while (!isOver()) {
         begin();
-        while (!isOver() && sinceBetter_ < patience * instance_.stopCount) breed();
+        while (!isOver() && sinceBetter_ < patience * effort()) breed();
     }
 }
 
+/// The size of the problem; small ones have as many traps as larger ones.
+int GeneticSearch::effort() const {
+    constexpr int least = 20;
+    return std::max(least, instance_.stopCount);
+}
+
 bool GeneticSearch::isOver() const {
-    return work() >= budget_ || sinceBest_ >= lastPatience * instance_.stopCount;
+    return work() >= budget_ || sinceBest_ >= lastPatience * effort();
 }
 
 void GeneticSearch::begin() {

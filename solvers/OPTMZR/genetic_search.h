@@ -49,6 +49,7 @@ class GeneticSearch {
     void note(const RouteValue& total, int missing);
     void adaptPenalties();
     long long work() const { return search_.work() + split_.work(); }
+    int effort() const;
     bool isOver() const;
 
     const Instance& instance_;
