@@ -49,6 +49,7 @@ constexpr double fieldHeight = 300;
 constexpr double leftCaption = 3800;
 constexpr double rightCaption = 2950;
 constexpr double numberBox = 600;
+constexpr double cornerBox = 400;
 constexpr double depotBox = 1400;
 
 // Columns of a specified distance or speed.
@@ -122,7 +123,10 @@ void ROUTER::addGeneralFields() {
         return &box;
     };
     TextBox* txtLabel = &addField(title, "txtLabel", "Problem label");
-    TextBox* txtCorner = &addField(left, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)");
+    FieldColumn corner = onParameters(pageLeft, left.top, leftCaption + numberBox - cornerBox, cornerBox);
+    TextBox* txtCorner =
+        &addField(corner, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)");
+    left.top = corner.top;
     heading(left, "lblGeneral", "GENERAL DATA");
     TextBox* txtPercntPickup = field(
         left, "txtPercntPickup", "Percent of vehicle in use before allowing pickups",

@@ -45,11 +45,12 @@ class RestlessUser : public ScriptPlatform {
 };
 
 void pressAll(Suite& suite, RestlessUser& user) {
-    for (const char* name :
-         {"cmdOpen",     "cmdOpenFile", "OpenF",     "cmdSolve",     "Solve",       "PlotDemand",
-          "Continue1",   "Report",      "cmdReport", "cmdReturn",    "cmdContinue", "cmdPlot",
-          "cmdPlotData", "cmdPath",     "cmdZoom",   "cmdPrintPlot", "cmdContinue", "cmdPrintData",
-          "cmdContinue", "cmdSave",     "Save",      "cmdExit",      "Exit1"}) {
+    for (const char* name : {"cmdOpen",      "cmdOpenFile", "OpenF",        "cmdSolve",    "Solve",
+                             "PlotDemand",   "Continue1",   "Report",       "cmdReport",   "cmdReturn",
+                             "cmdContinue",  "cmdPlot",     "cmdPlotData",  "cmdPath",     "cmdStopId",
+                             "cmdZonesPlot", "cmdZoom",     "cmdPrintPlot", "cmdContinue", "cmdContinuePlot",
+                             "cmdReport",    "cmdContinue", "cmdPrintData", "cmdContinue", "cmdSave",
+                             "Save",         "cmdExit",     "Exit1"}) {
         Form* module = suite.windows.front();
         if (module == nullptr) return;
         Control* control = module->find(name);

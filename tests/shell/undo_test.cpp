@@ -60,8 +60,8 @@ FormState stateOf(const Form& form) {
 }
 
 /// Buttons that change the data and stay in the data view.
-const std::vector<std::string> editing = {"cmdAdd",      "cmdDelete",    "cmdArith",
-                                          "cmdColArith", "cmdTransform", "cmdResize"};
+const std::vector<std::string> editing = {"cmdAdd",       "cmdDelete", "cmdArith",     "cmdColArith",
+                                          "cmdTransform", "cmdResize", "cmdArithStops"};
 
 void useGrid(Form& form, DataGrid& grid, Random& random) {
     const int row = below(random, grid.rows());
@@ -123,6 +123,7 @@ TEST_P(UndoOfModule, LeadsBackToTheStartAndForthToTheEnd) {
         if (open == nullptr) open = module.find("cmdOpenFile");
         if (open == nullptr) open = module.find("OpenF");
         if (open != nullptr) module.press(*open);
+        if (Control* editor = module.find("cmdData")) module.press(*editor);
         const FormState start = stateOf(module);
         for (int i = 0; i < 1000 && module.view() == View::Data; ++i) act(module, random);
         ASSERT_EQ(module.view(), View::Data);

@@ -17,8 +17,8 @@ using Row = std::vector<double>;
 class Subsets {
   public:
     explicit Subsets(const router::Problem& problem)
-        : problem_(problem), vehicle_(problem.vehicles(1)), n_(static_cast<std::size_t>(problem.stops.count())),
-          sets_(std::size_t{1} << n_) {
+        : problem_(problem), vehicle_(problem.vehicles(1)),
+          n_(static_cast<std::size_t>(problem.stops.count())), sets_(std::size_t{1} << n_) {
         const router::Travel travel(problem);
         for (int a = 0; a <= problem.stops.count(); ++a) {
             legs_.emplace_back();
@@ -40,7 +40,8 @@ class Subsets {
             for (std::size_t set = 1; set < sets_; ++set) {
                 const std::size_t lowest = set & (~set + 1);
                 for (std::size_t part = set; part > 0; part = (part - 1) & set)
-                    if ((part & lowest) != 0) next[set] = std::min(next[set], routes[part] + cost[set & ~part]);
+                    if ((part & lowest) != 0)
+                        next[set] = std::min(next[set], routes[part] + cost[set & ~part]);
             }
             cost = next;
             best = std::min(best, cost.back());
