@@ -15,7 +15,8 @@ namespace {
 constexpr double beyondReach = std::numeric_limits<double>::max();
 constexpr double leastGain = 1E-09;
 constexpr int plansAtFirst = 60;
-constexpr int patience = 6000; // plans without a better one, before beginning anew
+constexpr int patience = 100;     // plans for each stop without a better one, before beginning anew
+constexpr int lastPatience = 200; // before ending
 constexpr int plansBetweenPrices = 100;
 constexpr double wantedShare = .2; // of plans that keep a limit
 constexpr double tolerance = .05;
@@ -47,21 +48,48 @@ Penalties firstPenalties(const Instance& instance) {
 
 GeneticSearch::GeneticSearch(const Instance& instance, std::function<void(const Found&)> onFound)
     : instance_(instance), onFound_(std::move(onFound)), search_(instance), split_(instance),
-      penalties_(firstPenalties(instance)), budget_(stepsFor(instance.stopCount)), best_(beyondReach) {}
+      penalties_(firstPenalties(instance)), budget_(stepsFor(instance.stopCount)), best_(beyondReach),
+      bestSinceBegin_(beyondReach) {}
 
 void GeneticSearch::run() {
     educate(savings(instance_, penalties_));
+    searchOn();
+}
+
+void GeneticSearch::runStrictly() {
+    constexpr StrictPenalties strict{.limit = 1E+07, .excess = 1E+03};
+    search_.beStrict(strict);
+    split_.beStrict(strict);
+    penalties_.vehicle = strict.limit + strict.excess;
+    isStrict_ = true;
+    budget_ += work();
+    best_ = beyondReach;
+    sinceBest_ = 0;
+    searchOn();
+}
+
+void GeneticSearch::searchOn() {
     while (!isOver()) {
         begin();
-        while (!isOver() && sinceBetter_ < patience) breed();
+        while (!isOver() && sinceBetter_ < patience * effort()) breed();
     }
+}
+
+/// The size of the problem; small ones have as many traps as larger ones.
+int GeneticSearch::effort() const {
+    constexpr int least = 20;
+    return std::max(least, instance_.stopCount);
+}
+
+bool GeneticSearch::isOver() const {
+    return work() >= budget_ || sinceBest_ >= lastPatience * effort();
 }
 
 void GeneticSearch::begin() {
     feasible_ = {};
     infeasible_ = {};
     sinceBetter_ = 0;
-    best_ = beyondReach;
+    bestSinceBegin_ = beyondReach;
     for (int i = 0; i < plansAtFirst && !isOver(); ++i) addRandom();
 }
 
@@ -143,10 +171,10 @@ void GeneticSearch::educate(Solution solution) {
         sortAround(improved);
         const RouteValue total = search_.total();
         const int missing = search_.missingVehicles();
-        onFound_({improved, total, search_.violations()});
+        onFound_({improved, total, search_.violations(), isStrict_, missing});
         auto individual = std::make_unique<Individual>(instance_.stopCount, improved, total, missing);
-        individual->cost = individual->penalised(penalties_);
-        const bool isFeasible = search_.isFeasible();
+        individual->cost = isStrict_ ? total.penalised : individual->penalised(penalties_);
+        const bool isFeasible = isStrict_ || search_.isFeasible();
         (isFeasible ? feasible_ : infeasible_).add(std::move(individual));
         return isFeasible;
     };
@@ -154,10 +182,12 @@ void GeneticSearch::educate(Solution solution) {
     note(search_.total(), search_.missingVehicles());
     const bool isFeasible = take(solution);
     ++sinceBetter_;
+    ++sinceBest_;
     const auto noteCost = [this](double value) {
-        if (value >= best_ - leastGain) return;
-        best_ = value;
-        sinceBetter_ = 0;
+        if (value < best_ - leastGain) sinceBest_ = 0;
+        if (value < bestSinceBegin_ - leastGain) sinceBetter_ = 0;
+        best_ = std::min(best_, value);
+        bestSinceBegin_ = std::min(bestSinceBegin_, value);
     };
     if (isFeasible) return noteCost(cost);
     if (dice_.below(2) == 0) return;
@@ -175,7 +205,7 @@ void GeneticSearch::note(const RouteValue& total, int missing) {
     if (total.distance < slack) ++kept_.distance;
     if (total.share < slack) ++kept_.share;
     if (missing == 0) ++kept_.vehicle;
-    if (kept_.plans >= plansBetweenPrices) adaptPenalties();
+    if (kept_.plans >= plansBetweenPrices && !isStrict_) adaptPenalties();
 }
 
 /// So that a fifth of the plans keep each kind of limit: the best plans lie at the limits.

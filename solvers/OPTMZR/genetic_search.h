@@ -13,6 +13,8 @@ struct Found {
     const Solution& solution;
     const RouteValue& total;
     int violations = 0;
+    bool isStrict = false; ///< the total's misses are counted
+    int missingVehicles = 0;
 };
 
 /// Hybrid genetic search: tours are crossed, cut into routes, improved by the local search and kept in two
@@ -26,6 +28,9 @@ class GeneticSearch {
 
     void run();
 
+    /// Goes on where no plan keeps all limits: as a plan is judged, the fewest limits broken come first.
+    void runStrictly();
+
   private:
     /// How many of the last plans kept a kind of limit.
     struct Kept {
@@ -33,6 +38,7 @@ class GeneticSearch {
         int plans = 0;
     };
 
+    void searchOn();
     void begin();
     void addRandom();
     void breed();
@@ -43,7 +49,8 @@ class GeneticSearch {
     void note(const RouteValue& total, int missing);
     void adaptPenalties();
     long long work() const { return search_.work() + split_.work(); }
-    bool isOver() const { return work() >= budget_; }
+    int effort() const;
+    bool isOver() const;
 
     const Instance& instance_;
     std::function<void(const Found&)> onFound_;
@@ -54,8 +61,11 @@ class GeneticSearch {
     Kept kept_;
     Dice dice_{1};
     long long budget_;
-    int sinceBetter_ = 0;
+    bool isStrict_ = false;
+    int sinceBetter_ = 0; ///< plans since a better one, since it began anew
+    int sinceBest_ = 0;   ///< plans since the best of all
     double best_;
+    double bestSinceBegin_;
 };
 
 /// The penalties to begin with: an excess of the size of the largest load, of an hour or of the longest leg

@@ -167,6 +167,7 @@ RouteValue LocalSearch::total() const {
         total.minutes += value.minutes;
         total.distance += value.distance;
         total.share += value.share;
+        total.misses += value.misses;
         total.penalised += value.penalised;
     }
     total.penalised += judge_.penalties().vehicle * missingVehicles();
@@ -540,7 +541,7 @@ bool LocalSearch::changeVehicle(int index) {
     for (int f = 0; f < instance_.fleetCount(); ++f) {
         if (f == changed.fleet()) continue;
         work_ += changed.size();
-        const RouteValue value = judge_.value(instance_.fleet(f), changed.sums(), order);
+        const RouteValue value = judge_.value(instance_.fleet(f), changed.sums(), order, changed.stops());
         const double cost = value.penalised + vehiclePenalty(f, 1) + freed;
         if (cost >= least) continue;
         least = cost;

@@ -92,6 +92,9 @@ class LocalSearch {
   public:
     explicit LocalSearch(const Instance& instance);
 
+    /// From here on limits are counted.
+    void beStrict(const StrictPenalties& strict) { judge_.beStrict(strict); }
+
     /// Improves a solution under these penalties. `dice` sets the order in which stops are tried.
     void improve(Solution& solution, const Penalties& penalties, Dice& dice);
 

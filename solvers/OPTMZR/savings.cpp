@@ -45,7 +45,7 @@ class Savings {
         const RouteOrder order = judge_.order(sums, stops);
         CheapestRoute best;
         for (int f = 0; f < instance_.fleetCount(); ++f) {
-            const double cost = judge_.value(instance_.fleet(f), sums, order).penalised;
+            const double cost = judge_.value(instance_.fleet(f), sums, order, stops).penalised;
             if (f > 0 && cost >= best.cost) continue;
             best.cost = cost;
             best.route.fleet = f;

@@ -52,7 +52,7 @@ void Split::price(const std::vector<int>& tour) {
             Part part{.first = first, .costs = {}, .cheapest = 0};
             for (int f = 0; f < instance_.fleetCount(); ++f) {
                 const Fleet& fleet = instance_.fleet(f);
-                part.costs.push_back(judge_.value(fleet, sums, order).penalised +
+                part.costs.push_back(judge_.value(fleet, sums, order, stops).penalised +
                                      (fleet.available == 0 ? judge_.penalties().vehicle : 0));
             }
             part.cheapest =

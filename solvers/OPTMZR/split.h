@@ -18,6 +18,8 @@ class Split {
   public:
     explicit Split(const Instance& instance) : instance_(instance), judge_(instance, {}) {}
 
+    void beStrict(const StrictPenalties& strict) { judge_.beStrict(strict); }
+
     Solution routes(const std::vector<int>& tour, const Penalties& penalties, Dice& dice);
 
     long long work() const { return work_; }
