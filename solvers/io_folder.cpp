@@ -17,15 +17,4 @@ std::filesystem::path solverIoFolder() {
     return pathOf(DriverReader(program.parent_path() / "VANTORE.DRV").readFolder());
 }
 
-void writeWhole(const std::filesystem::path& file, const std::vector<std::string>& lines) {
-    try {
-        writeLines(file, lines);
-    } catch (const std::exception&) {
-        std::error_code ignored;
-        const auto written = existingSpelling(file);
-        if (std::filesystem::is_regular_file(written, ignored)) std::filesystem::remove(written, ignored);
-        throw;
-    }
-}
-
 } // namespace vantore
