@@ -1,6 +1,7 @@
 #include "tests/routing/ROUTER/plain_router.h"
 
 #include <cmath>
+#include <string_view>
 
 #include "shell/base/number_text.h"
 
