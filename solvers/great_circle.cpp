@@ -24,7 +24,7 @@ double greatCircleMiles(EarthPlace a, EarthPlace b) {
     const double latitudeB = radians(b.latitude);
     const double share = haversine(latitudeB - latitudeA) + std::cos(latitudeA) * std::cos(latitudeB) *
                                                                 haversine(radians(b.longitude - a.longitude));
-    return 2 * earthRadius * std::asin(std::sqrt(std::min(share, 1.0)));
+    return 2 * earthRadius * std::asin(std::sqrt(std::clamp(share, 0.0, 1.0)));
 }
 
 } // namespace vantore

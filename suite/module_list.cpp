@@ -7,6 +7,8 @@
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
 #include "location/LAYOUT/LAYOUT.h"
+#include "location/MCOG/MCOG.h"
+#include "location/PMED/PMED.h"
 #include "location/WARELOCA/WARELOCA.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
@@ -33,6 +35,8 @@ std::vector<ModuleEntry> moduleList() {
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
         entry<layout::LAYOUT>("LAYOUT"),
+        entry<mcog::MCOG>("MULTICOG"),
+        entry<pmed::PMED>("PMED"),
         entry<wareloca::WARELOCA>("WARELOCA"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),

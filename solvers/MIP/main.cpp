@@ -9,6 +9,7 @@
 #include "solvers/MIP/solve.h"
 #include "solvers/io_folder.h"
 #include "solvers/watch/watch.h"
+#include "solvers/whole_file.h"
 
 namespace {
 

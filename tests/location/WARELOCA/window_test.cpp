@@ -353,20 +353,20 @@ TEST_F(WarelocaMap, AsksWhatToShow) {
     EXPECT_EQ(session.play("answer 1\npress cmdPlot"), displays + " -> \"1\"\n");
     EXPECT_EQ(show("picOut").substr(0, 15), "picOut: visible");
     EXPECT_EQ(show("cmdPrintPlot").substr(0, 21), "cmdPrintPlot: visible");
-    // (12600 - 8000) / 6000 x 634 and 32 + (5200 - 4000) / 3000 x 396
-    EXPECT_EQ(session.play("surface").substr(0, 36), "line 486 190 380 177 colour 8\nbox 48");
+    // (12600 - 8000) / 6000 x 634 and 32 + (5200 - 4000) / 3000 x 428
+    EXPECT_TRUE(session.play("surface").starts_with("line 486 203 380 189 colour 8\nbox "));
 }
 
 TEST_F(WarelocaMap, MarksCustomersWarehousesOrPlants) {
-    EXPECT_EQ(plotted("answer 1"),
-              "box 483 187 487 191 colour 0 filled\nbox 376 175 380 179 colour 0 filled\n");
+    EXPECT_EQ(plotted("answer 1"), "box 482 199 488 205 colour 0 filled\n"
+                                   "box 375 186 381 192 colour 0 filled\n");
     session.play("press cmdContinue\npress cmdSolve");
-    EXPECT_EQ(plotted("answer 2"),
-              "box 484 188 488 192 colour 0 filled\nbox 431 162 435 166 colour 0 filled\n"
-              "box 378 175 382 179 colour 0 filled\n");
+    EXPECT_EQ(plotted("answer 2"), "box 483 200 489 206 colour 0 filled\n"
+                                   "box 430 172 436 178 colour 0 filled\n"
+                                   "box 377 186 383 192 colour 0 filled\n");
     session.play("press cmdContinue\npress cmdSolve");
-    EXPECT_EQ(plotted("answer  3 "),
-              "box 484 188 488 192 colour 0 filled\nbox 378 175 382 179 colour 0 filled\n");
+    EXPECT_EQ(plotted("answer  3 "), "box 483 200 489 206 colour 0 filled\n"
+                                     "box 377 186 383 192 colour 0 filled\n");
 }
 
 TEST_F(WarelocaMap, ShowsTheMapAloneWithoutAnAnswer) {
@@ -383,13 +383,13 @@ TEST_F(WarelocaMap, DrawsTheDeliveries) {
               displays + " -> \"4\"\nYesNoBx \"WARELOCA\": \"Show warehouse labels?\" -> No\n");
     const std::string surface = session.play("surface");
     EXPECT_EQ(surface.substr(surface.find('\n') + 1),
-              "line 486 190 380 177 colour 12\nline 433 177 380 177 colour 12\n");
+              "line 486 203 380 189 colour 12\nline 433 189 380 189 colour 12\n");
 }
 
 TEST_F(WarelocaMap, NamesTheWarehousesBesideThem) {
     EXPECT_EQ(plotted("answer 4\nanswer Yes"),
-              "line 486 190 380 177 colour 12\ntext 386 171 \"Corfield\" Arial 8 colour 0\n"
-              "line 433 177 380 177 colour 12\ntext 386 171 \"Corfield\" Arial 8 colour 0\n");
+              "line 486 203 380 189 colour 12\ntext 386 183 \"Corfield\" Arial 8 colour 0\n"
+              "line 433 189 380 189 colour 12\ntext 386 183 \"Corfield\" Arial 8 colour 0\n");
 }
 
 TEST_F(WarelocaMap, DrawsTheSuppliesBehindTheDeliveries) {
@@ -398,9 +398,9 @@ TEST_F(WarelocaMap, DrawsTheSuppliesBehindTheDeliveries) {
                          "YesNoBx \"WARELOCA\": \"Show plant labels?\" -> Yes\n");
     const std::string surface = session.play("surface");
     EXPECT_EQ(surface.substr(surface.find('\n') + 1),
-              "line 486 190 380 177 colour 12\nline 433 177 380 177 colour 12\n"
-              "line 380 177 486 190 colour 9\ntext 492 184 \"Ashby\" Arial 8 colour 0\n"
-              "line 380 177 486 190 colour 9\ntext 492 184 \"Ashby\" Arial 8 colour 0\n");
+              "line 486 203 380 189 colour 12\nline 433 189 380 189 colour 12\n"
+              "line 380 189 486 203 colour 9\ntext 492 197 \"Ashby\" Arial 8 colour 0\n"
+              "line 380 189 486 203 colour 9\ntext 492 197 \"Ashby\" Arial 8 colour 0\n");
 }
 
 TEST_F(WarelocaMap, NamesThePlaceOfAFaultyFile) {
