@@ -1,8 +1,6 @@
 #include "solvers/io_folder.h"
 
 #include <cstdlib>
-#include <exception>
-#include <system_error>
 
 #include "shell/base/driver_file.h"
 #include "shell/base/text_file.h"
