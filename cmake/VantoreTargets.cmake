@@ -27,15 +27,19 @@ function(vantore_library name)
     target_link_libraries(${name} PUBLIC vantore_options ${ARG_LINKS})
 endfunction()
 
-# vantore_module(COG CORE problem method WINDOW report plot COG [LINKS lib ...])
+# vantore_module(COG CORE problem method [CORE_LINKS lib ...] WINDOW report plot COG [LINKS lib ...])
 #
 # COG_core holds the record and the method and sees nothing above the base; COG holds what the user sees.
 function(vantore_module name)
-    cmake_parse_arguments(ARG "" "" "CORE;WINDOW;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "CORE;CORE_LINKS;WINDOW;LINKS" ${ARGN})
     list(TRANSFORM ARG_CORE REPLACE "(.+)" "${name}/\\1.cpp")
     list(TRANSFORM ARG_WINDOW REPLACE "(.+)" "${name}/\\1.cpp")
-    vantore_library(${name}_core SOURCES ${ARG_CORE} LINKS vantore_base)
+    vantore_library(${name}_core SOURCES ${ARG_CORE} LINKS vantore_base ${ARG_CORE_LINKS})
     vantore_library(${name} SOURCES ${ARG_WINDOW} LINKS ${name}_core vantore_frame ${ARG_LINKS})
-    # GCC 12 takes the empty texts of a module's wording for uninitialised where it optimises.
-    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+    # Where it optimises, GCC 12 takes the empty texts of a module's wording for uninitialised, and sees texts in
+    # records that hold none.
+    foreach(part ${name}_core ${name})
+        target_compile_options(${part} PRIVATE
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized -Wno-array-bounds>)
+    endforeach()
 endfunction()

@@ -1,5 +1,6 @@
 #include <QFrame>
 #include <QGroupBox>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QTabBar>
 
@@ -13,6 +14,17 @@ namespace {
 constexpr int titleInset = 16;      // pixels at both sides of a frame's title together
 constexpr double titleHeight = 240; // twips of the design that a frame's controls leave free
 constexpr double smallestShare = .8;
+constexpr double shareStep = .05;
+constexpr int besideTabText = 10; // pixels at both sides of a tab's text together
+
+/// Tabs that stand close together, so that many of them fit.
+class CloseTabs : public QProxyStyle {
+  public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        if (metric == PM_TabBarTabHSpace) return besideTabText;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 /// A frame with a caption around the controls that stand in it.
 class GroupView : public ControlView {
@@ -47,6 +59,9 @@ class TabView : public ControlView {
             bar_.addTab(qtText(caption));
             pages_.push_back(new QWidget(widget()));
         }
+        auto* style = new CloseTabs;
+        style->setParent(&bar_);
+        bar_.setStyle(style);
         bar_.setExpanding(false);
         bar_.setUsesScrollButtons(false);
         bar_.setElideMode(Qt::ElideRight);
@@ -73,23 +88,36 @@ class TabView : public ControlView {
     }
 
   private:
-    void syncCaptions(QFont wanted) {
+    void syncCaptions(const QFont& wanted) {
         for (int i = 0; i < bar_.count(); ++i) {
             const QString caption = qtText(tabs_.pages.at(static_cast<std::size_t>(i)));
             if (bar_.tabText(i) == caption) continue;
             bar_.setTabText(i, caption);
             bar_.setTabToolTip(i, QString(caption).remove('&'));
         }
-        if (bar_.font() != wanted) bar_.setFont(wanted);
-        if (bar_.sizeHint().width() <= widget()->width()) return;
-        wanted.setPointSizeF(wanted.pointSizeF() * smallestShare);
-        bar_.setFont(wanted);
+        if (wanted == wanted_ && widget()->width() == width_) return;
+        wanted_ = wanted;
+        width_ = widget()->width();
+        fitFont();
+    }
+
+    /// The wanted font, or the largest smaller one in which all captions are seen whole.
+    void fitFont() {
+        QFont font = wanted_;
+        bar_.setFont(font);
+        for (double share = 1 - shareStep; bar_.sizeHint().width() > width_ && share > smallestShare - .001;
+             share -= shareStep) {
+            font.setPointSizeF(wanted_.pointSizeF() * share);
+            bar_.setFont(font);
+        }
     }
 
     Container& tabs_;
     QTabBar& bar_;
     QFrame& edge_;
     std::vector<QWidget*> pages_;
+    QFont wanted_;
+    int width_ = 0;
 };
 
 } // namespace

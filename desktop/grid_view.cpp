@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
 #include <cmath>
 
 #include "desktop/grid_looks.h"
@@ -19,7 +21,8 @@ namespace vantore {
 
 namespace {
 
-constexpr int narrowestColumn = 12; // pixels
+constexpr int narrowestColumn = 12;     // pixels
+constexpr double widestFixedShare = .5; // of the grid for its fixed column
 
 bool moves(const QKeyEvent& event) {
     switch (event.key()) {
@@ -122,8 +125,14 @@ void GridView::refresh(const FormLayout& layout, const QFont& font) {
 
 void GridView::shape(const FormLayout& layout) {
     columns_.setFixedHeight(static_cast<int>(std::lround(grid_.rowHeight(0) * layout.y)));
-    rowNumbers_.setFixedWidth(static_cast<int>(std::lround(grid_.colWidth(0) * layout.x)));
-    for (int col = 1; col < grid_.cols(); ++col) resizeTo(columns_, col - 1, grid_.colWidth(col) * layout.x);
+    // However wide a text makes the fixed column, there is room for another; however wide that one, all of it
+    // can be scrolled into view.
+    const double fixed = std::min(grid_.colWidth(0) * layout.x, widestFixedShare * width());
+    rowNumbers_.setFixedWidth(static_cast<int>(std::lround(fixed)));
+    const double room =
+        std::max<double>(width() - fixed - verticalScrollBar()->sizeHint().width(), narrowestColumn);
+    for (int col = 1; col < grid_.cols(); ++col)
+        resizeTo(columns_, col - 1, std::min(grid_.colWidth(col) * layout.x, room));
     for (int row = 1; row < grid_.rows(); ++row)
         resizeTo(rowNumbers_, row - 1, grid_.rowHeight(row) * layout.y);
 }

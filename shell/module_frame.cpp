@@ -165,7 +165,8 @@ void ModuleFrame::addDataButtons(const DataButtons& buttons) {
     if (!buttons.arithmetic.empty())
         addButton(buttons.arithmetic, "Colu&mn Arithmetic", buttons.arithmeticPlace, data,
                   [this] { computeColumn(); });
-    addButton("cmdExcel", "&Excel edit", buttons.excelPlace, data, [this] { excelEdit(); });
+    if (buttons.spreadsheet)
+        addButton("cmdExcel", "&Excel edit", buttons.excelPlace, data, [this] { excelEdit(); });
 }
 
 void ModuleFrame::addOutcomeButtons(std::initializer_list<View> views, const std::string& printReportName) {

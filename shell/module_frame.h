@@ -180,7 +180,8 @@ class ModuleFrame : public SuiteWindow {
     struct DataButtons {
         std::string arithmetic = "cmdArith";
         std::string printData = "cmdPrintData";
-        bool rows = true; ///< Add row and Delete row
+        bool rows = true;        ///< Add row and Delete row
+        bool spreadsheet = true; ///< Excel edit
         Rect arithmeticPlace = buttonPlace(1, 2);
         Rect excelPlace = buttonPlace(1, 3);
     };

@@ -6,6 +6,10 @@
 #include "demand/INPOL/INPOL.h"
 #include "demand/MULREG/MULREG.h"
 #include "location/COG/COG.h"
+#include "location/LAYOUT/LAYOUT.h"
+#include "location/MCOG/MCOG.h"
+#include "location/PMED/PMED.h"
+#include "location/WARELOCA/WARELOCA.h"
 #include "mathprog/LNPROG/Lnprog.h"
 #include "mathprog/MIPROG/MIPROG.h"
 #include "mathprog/TRANLP/TRANLP.h"
@@ -31,6 +35,10 @@ std::vector<ModuleEntry> moduleList() {
         entry<forecast::FORECAST>("FORECAST"),
         entry<inpol::INPOL>("INPOL"),
         entry<cog::COG>("COG"),
+        entry<layout::LAYOUT>("LAYOUT"),
+        entry<mcog::MCOG>("MULTICOG"),
+        entry<pmed::PMED>("PMED"),
+        entry<wareloca::WARELOCA>("WARELOCA"),
         entry<tranlp::TRANLP>("TRANLP"),
         entry<lnprog::Lnprog>("LNPROG"),
         entry<miprog::MIPROG>("MIPROG"),

@@ -4,7 +4,8 @@ no logic sees a toolkit.
 
     floors.py ROOT
 
-What a module's core is, its CMakeLists.txt says: vantore_module(NAME CORE ... WINDOW ...).
+What a module's core is, its CMakeLists.txt says: vantore_module(NAME CORE ... WINDOW ...). What several cores share is a
+library of their subsystem that is linked to the base alone: vantore_library(NAME SOURCES ... LINKS vantore_base).
 """
 import pathlib
 import re
@@ -29,6 +30,7 @@ WITH_TOOLKIT = ("desktop", "drawing")
 TOOLKIT = re.compile(r"#include\s+<(Q[A-Z]\w*|Qt\w*/.*)>")
 INCLUDE = re.compile(r'#include\s+"([^"]+)"')
 MODULE = re.compile(r"vantore_module\(\s*(\w+)([^)]*)\)")
+LIBRARY = re.compile(r"vantore_library\(([^)]*)\)")
 
 
 def floor(path):
@@ -42,7 +44,7 @@ def words_behind(keyword, arguments):
     found = []
     taking = False
     for word in words:
-        if word in ("CORE", "WINDOW", "LINKS"):
+        if word in ("CORE", "CORE_LINKS", "WINDOW", "SOURCES", "LINKS"):
             taking = word == keyword
         elif taking:
             found.append(word)
@@ -55,6 +57,17 @@ def listed(root, keyword):
     for lists in sorted(root.glob("*/CMakeLists.txt")):
         for name, arguments in MODULE.findall(lists.read_text(encoding="utf-8")):
             found.update(f"{lists.parent.name}/{name}/{file}" for file in words_behind(keyword, arguments))
+    return found
+
+
+def shared_by_cores(root):
+    """The files of the subsystems' libraries that see the base alone, without their endings."""
+    found = set()
+    for subsystem in SUBSYSTEMS:
+        lists = root / subsystem / "CMakeLists.txt"
+        for arguments in LIBRARY.findall(lists.read_text(encoding="utf-8")) if lists.exists() else []:
+            if words_behind("LINKS", arguments) == ["vantore_base"]:
+                found.update(f"{subsystem}/{stem(file)}" for file in words_behind("SOURCES", arguments))
     return found
 
 
@@ -71,7 +84,7 @@ def is_of_a_core(path, root, core, window):
 
 
 def faults(root):
-    core, window = listed(root, "CORE"), listed(root, "WINDOW")
+    core, window = listed(root, "CORE") | shared_by_cores(root), listed(root, "WINDOW")
     for path in sorted(root.rglob("*")):
         name = path.relative_to(root).as_posix()
         own = floor(name)

@@ -6,15 +6,18 @@ import unittest
 
 import floors
 
-MODULE_LIST = """vantore_library(location_plot SOURCES point_plot.cpp LINKS vantore_forms)
+MODULE_LIST = """vantore_library(location_points SOURCES weighted_points.cpp LINKS vantore_base)
+vantore_library(location_plot SOURCES point_plot.cpp LINKS vantore_forms)
 vantore_module(COG
     CORE problem method # the record and its method
+    CORE_LINKS location_points
     WINDOW report COG LINKS location_plot)
 """
 SOUND = {
     "location/CMakeLists.txt": MODULE_LIST,
     "location/COG/problem.h": '#include "shell/base/table.h"\n#include "location/COG/index.h"\n',
-    "location/COG/index.h": "",
+    "location/COG/index.h": '#include "location/weighted_points.h"\n',
+    "location/weighted_points.h": '#include "shell/base/number.h"\n',
     "location/COG/method.cpp": '#include "location/COG/problem.h"\n',
     "location/COG/report.cpp": '#include "location/COG/problem.h"\n#include "shell/forms/palette.h"\n',
     "location/COG/COG.cpp": '#include "location/COG/report.h"\n#include "location/point_plot.h"\n',
@@ -58,6 +61,7 @@ class Floors(unittest.TestCase):
     def test_a_core_sees_no_window(self):
         self.check("location/COG/method.cpp", '#include "location/COG/report.h"\n', "below the windows")
         self.check("location/COG/method.cpp", '#include "location/point_plot.h"\n', "below the windows")
+        self.check("location/weighted_points.cpp", '#include "location/COG/COG.h"\n', "below the windows")
 
     def test_a_solver_sees_no_window(self):
         self.check("solvers/PMED/main.cpp", '#include "location/COG/COG.h"\n', "below the windows")

@@ -1,5 +1,6 @@
 #include "location/COG/COG.h"
 
+#include "location/point_columns.h"
 #include "shell/base/arithmetic.h"
 #include "shell/base/number_text.h"
 #include "shell/printing.h"
@@ -26,6 +27,7 @@ const ModuleWording cogWording = {
 constexpr double surfaceWidth = 9520; // twips of the design
 constexpr double reportHeight = 6372;
 constexpr double plotHeight = 6422;
+constexpr double labelTop = 32; // of the plot, units of the design
 
 } // namespace
 
@@ -52,14 +54,7 @@ void COG::addControls() {
     txtMapFactor.tip = "Factor to convert coordinates to miles or kilometers.";
     scalars_ = {scalarFields, {&txtLabel, &txtPowerFactor, &txtMapFactor}};
     COGGrid = &addRowGrid("COGGrid", {120, 1000, 9360, 5330}, mostPoints).grid();
-    points_ = {*COGGrid,
-               pointFields,
-               {{"Point no.", 900},
-                {" \r\nPoint label", 3000},
-                {"X coor-\r\ndinate", 1250},
-                {"Y coor-\r\ndinate", 1250},
-                {" \r\nVolume", 1400},
-                {"Transport\r\nrate", 1250}}};
+    points_ = {*COGGrid, pointFields, pointHeadings()};
     picOut = &add<PictureSurface>("picOut", Rect{0, 0, surfaceWidth, reportHeight}, scale());
     seenIn(*picOut, {View::Report, View::Plot});
 }
@@ -159,29 +154,21 @@ void COG::printData() {
     page.line(joined("Power Factor: ", problem.powerFactor));
     page.line(joined("Map scaling factor: ", problem.mapFactor));
     page.line("");
-    page.line("Point data:");
-    page.line("                    X coor-     Y coor-                         Transport");
-    page.line("Point               dinate      dinate         Volume           rate");
-    for (int i = 1; i <= problem.rowCount; ++i) {
-        const Point& point = problem.points(i);
-        page.text(point.label);
-        page.tab(21).text(format(point.x, "##,###.#0")).tab(33).text(format(point.y, "##,###.#0"));
-        page.tab(48)
-            .text(format(point.volume, "###,###,##0"))
-            .tab(65)
-            .text(format(point.rate, "##,###.###0"));
-        page.endLine();
-    }
+    printPoints(page, problem.pointSpan());
     print(dataJob(wording().name, "EXACT CENTER-OF-GRAVITY METHOD RESULTS", page));
 }
 
 void COG::plot() {
     prepareSurface(View::Plot, plotHeight);
     const Problem problem = readControls();
-    const PlotPoint largest = plotFrame(*picOut, scale(), problem);
+    std::vector<PlotPoint> points;
+    for (const Point& point : problem.pointSpan()) points.push_back({point.x, point.y});
+    const PointPlot plotted =
+        drawPlotFrame(*picOut, scale(), {problem.label, "MS Sans Serif", labelTop}, points);
     if (suite().asksYes("Want to show point numbers?", "COG"))
-        plotNumbers(*picOut, scale(), problem, largest);
-    plotPoints(*picOut, scale(), problem, largest, facility_);
+        printNumbers(*picOut, scale(), plotted.numberPlaces());
+    for (const PlotPoint& point : plotted.points) drawPoint(*picOut, scale(), plotted.placeOf(point));
+    plotFacility(*picOut, scale(), plotted, facility_);
 }
 
 } // namespace vantore::cog

@@ -9,11 +9,6 @@ namespace vantore::cog {
 /// The exact centre-of-gravity method: the location that minimises the transport cost to weighted points.
 /// Weights are volume times rate, distances (dx^2 + dy^2)^T. Runs over points 1 to `rowCount`.
 
-struct Location {
-    double x = 0;
-    double y = 0;
-};
-
 /// The sum over the points of weight x K x distance. Overflow beyond the double range.
 double totalCost(const Problem& problem, Location at);
 

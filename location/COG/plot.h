@@ -14,15 +14,7 @@ struct Facility {
     double totalCost = 0;
 };
 
-/// Draws the title, the axes and the problem's label, and gives the largest coordinates, at least 0.000001.
-PlotPoint plotFrame(PictureSurface& surface, Scale scale, const Problem& problem);
-
-/// Prints the points' numbers.
-void plotNumbers(PictureSurface& surface, Scale scale, const Problem& problem, PlotPoint largest);
-
-/// Draws the points and, unless location and cost are all 0, the facility, its lines to the points and its
-/// figures.
-void plotPoints(PictureSurface& surface, Scale scale, const Problem& problem, PlotPoint largest,
-                const Facility& facility);
+/// Draws the facility, its lines to the points and its figures, unless location and cost are all 0.
+void plotFacility(PictureSurface& surface, Scale scale, const PointPlot& plot, const Facility& facility);
 
 } // namespace vantore::cog

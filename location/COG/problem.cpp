@@ -1,36 +1,6 @@
 #include "location/COG/problem.h"
 
-#include <array>
-
-#include "shell/base/number_text.h"
-
 namespace vantore::cog {
-
-namespace {
-
-constexpr double largestCoordinate = 99999;
-constexpr double largestVolume = 999999999;
-constexpr double largestRate = 99999.9999;
-
-struct Range {
-    double Point::*value;
-    double most;
-    const char* text;
-    const char* title;
-};
-
-constexpr std::array<Range, 4> ranges = {{
-    {&Point::x, largestCoordinate,
-     "No X coordinate should be outside the range of 0 to 99,999.  Check point ", "X coordinate"},
-    {&Point::y, largestCoordinate,
-     "No Y coordinate should be outside the range of 0 to 99,999.  Check point ", "Y coordinate"},
-    {&Point::volume, largestVolume,
-     "No volume should be outside the range of 0 to 999,999,999.  Check point ", "Point volume"},
-    {&Point::rate, largestRate,
-     "No transport rate should be outside the range of 0 to 99999.9999.  Check point ", "Transport rate"},
-}};
-
-} // namespace
 
 std::string skeleton() {
     Problem problem;
@@ -66,12 +36,7 @@ std::optional<Message> scalarFault(const Problem& problem) {
 }
 
 std::optional<Message> pointFault(const Problem& problem) {
-    for (int i = 1; i <= problem.rowCount; ++i)
-        for (const Range& range : ranges) {
-            const double value = problem.points(i).*range.value;
-            if (value < 0 || value > range.most) return Message{joined(range.text, i), range.title};
-        }
-    return std::nullopt;
+    return rangeFault(problem.pointSpan(), pointRanges());
 }
 
 } // namespace vantore::cog

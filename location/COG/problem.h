@@ -2,25 +2,17 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 
-#include "shell/base/message.h"
-#include "shell/base/record_fields.h"
+#include "location/weighted_points.h"
 #include "shell/base/table.h"
 
 namespace vantore::cog {
 
 constexpr int mostPoints = 500;
 
-struct Point {
-    std::string label;
-    double x = 0;
-    double y = 0;
-    double volume = 0;
-    double rate = 0; ///< transport rate for one unit of volume over one unit of distance
-
-    double weight() const { return volume * rate; }
-};
+using Point = WeightedPoint;
 
 struct Problem {
     std::string label;
@@ -28,13 +20,16 @@ struct Problem {
     double mapFactor = 0;   ///< K, from coordinates to miles or kilometres
     int rowCount = 0;       ///< N
     Table<Point, 1, mostPoints> points;
+
+    std::span<const Point> pointSpan() const {
+        return points.span().first(static_cast<std::size_t>(rowCount));
+    }
 };
 
 /// The members that the file holds and the user edits, in their order.
 inline constexpr std::array<Field<Problem>, 3> scalarFields = {&Problem::label, &Problem::powerFactor,
                                                                &Problem::mapFactor};
-inline constexpr std::array<Field<Point>, 5> pointFields = {&Point::label, &Point::x, &Point::y,
-                                                            &Point::volume, &Point::rate};
+inline constexpr auto pointFields = weightedPointFields;
 
 /// The text of a new problem's file.
 std::string skeleton();

@@ -10,6 +10,8 @@ namespace vantore {
 /// The sixteen colours by number.
 namespace colour {
 constexpr int black = 0;
+constexpr int white = 7; // the light grey of the palette
+constexpr int grey = 8;
 constexpr int lightBlue = 9;
 constexpr int lightRed = 12;
 constexpr int brightWhite = 15;

@@ -2,7 +2,6 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <system_error>
 
 #include "mathprog/MIPROG/exchange.h"
 #include "shell/base/text_file.h"
@@ -10,6 +9,7 @@
 #include "solvers/MIP/solve.h"
 #include "solvers/io_folder.h"
 #include "solvers/watch/watch.h"
+#include "solvers/whole_file.h"
 
 namespace {
 
@@ -26,18 +26,6 @@ PrintLines solved(const std::filesystem::path& temporaryFile) {
     return mip::report(input, mip::solve(input, mip::usualLimits), mip::usualLimits);
 }
 
-/// Writes a report whole or leaves none behind.
-void write(const std::filesystem::path& file, const PrintLines& report) {
-    try {
-        writeLines(file, report.lines());
-    } catch (const std::exception&) {
-        std::error_code ignored;
-        const auto written = existingSpelling(file);
-        if (std::filesystem::is_regular_file(written, ignored)) std::filesystem::remove(written, ignored);
-        throw;
-    }
-}
-
 } // namespace
 
 /// MIP.EXE: reads TEMP.DAT in the input/output folder, solves the problem and reports to OUTPUT.Dat there.
@@ -46,8 +34,8 @@ int main() {
     try {
         watch::begin();
         const std::filesystem::path folder = solverIoFolder();
-        write(folder / "OUTPUT.Dat", mip::reportBeforehand());
-        write(folder / "OUTPUT.Dat", solved(folder / "TEMP.DAT"));
+        writeWhole(folder / "OUTPUT.Dat", mip::reportBeforehand().lines());
+        writeWhole(folder / "OUTPUT.Dat", solved(folder / "TEMP.DAT").lines());
     } catch (const std::exception& error) {
         std::cerr << "MIP.EXE: " << error.what() << std::endl;
         return EXIT_FAILURE;

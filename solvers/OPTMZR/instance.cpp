@@ -47,6 +47,7 @@ bool areAlike(const router::Vehicle& a, const router::Vehicle& b) {
 Instance::Instance(const Problem& problem, const Travel& travel) : stopCount(problem.stops.count()) {
     measureLegs(travel);
     takeStops(problem);
+    takePlaces(problem);
     takeFleets(problem);
     takeLimits(problem);
 }
@@ -92,6 +93,21 @@ void Instance::takeStops(const Problem& problem) {
     const auto isPickup = [](const Customer& customer) { return customer.isPickup; };
     const auto pickups = std::count_if(customers.begin(), customers.end(), isPickup);
     loadsMix = pickups > 0 && pickups < stopCount;
+}
+
+void Instance::takePlaces(const Problem& problem) {
+    const router::GridScale scale{problem.horizontalScale, problem.verticalScale};
+    double farthest = 0;
+    for (const router::Stop& stop : problem.stops.span())
+        farthest = std::max(
+            farthest, router::straightDistance({stop.x, stop.y}, {problem.depotX, problem.depotY}, scale));
+    const double unit = orOne(farthest);
+    for (int i = 1; i <= stopCount; ++i) {
+        const router::Stop& stop = problem.stops(i);
+        customers[static_cast<std::size_t>(i)].place = {
+            inParts((stop.x - problem.depotX) * scale.horizontal, unit),
+            inParts((stop.y - problem.depotY) * scale.vertical, unit)};
+    }
 }
 
 void Instance::takeFleets(const Problem& problem) {

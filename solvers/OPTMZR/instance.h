@@ -30,6 +30,7 @@ struct Customer {
     Load pickedUp;  ///< nothing for a delivery
     double minutes = 0;
     OpeningHours open;
+    router::Place place; ///< from the depot, in parts of the farthest place's distance
 };
 
 /// Vehicles that differ in nothing that counts: one or more rows of the vehicle table.
@@ -90,6 +91,7 @@ struct Instance {
     }
     void measureLegs(const router::Travel& travel);
     void takeStops(const router::Problem& problem);
+    void takePlaces(const router::Problem& problem);
     void takeFleets(const router::Problem& problem);
     void takeLimits(const router::Problem& problem);
 

@@ -127,12 +127,12 @@ void LocalSearch::keepEmptyRoutes() {
         if (!hasEmpty[static_cast<std::size_t>(f)]) routes_.emplace_back(instance_, f);
 }
 
-void LocalSearch::improve(Solution& solution, const Penalties& penalties, std::mt19937& random) {
+void LocalSearch::improve(Solution& solution, const Penalties& penalties, Dice& dice) {
     judge_.setPenalties(penalties);
     load(solution);
     std::vector<int> order(static_cast<std::size_t>(instance_.stopCount));
     std::iota(order.begin(), order.end(), 1);
-    std::shuffle(order.begin(), order.end(), random);
+    dice.shuffle(order);
     bool withEmptyRoutes = false;
     for (bool improved = true; improved || !withEmptyRoutes;) {
         withEmptyRoutes = !improved || withEmptyRoutes;
@@ -167,10 +167,22 @@ RouteValue LocalSearch::total() const {
         total.minutes += value.minutes;
         total.distance += value.distance;
         total.share += value.share;
+        total.misses += value.misses;
         total.penalised += value.penalised;
     }
     total.penalised += judge_.penalties().vehicle * missingVehicles();
     return total;
+}
+
+int LocalSearch::violations() const {
+    int count = missingVehicles();
+    for (const SearchRoute& route : routes_) {
+        if (route.empty()) continue;
+        const RouteValue& value = route.value();
+        for (const double excess : {value.load, value.minutes, value.distance, value.share})
+            if (excess >= slack) ++count;
+    }
+    return count;
 }
 
 /// What one vehicle more or less of a fleet adds to the penalties.
@@ -525,10 +537,11 @@ bool LocalSearch::changeVehicle(int index) {
     double least = changed.value().penalised - leastGain;
     RouteValue bestValue;
     const double freed = vehiclePenalty(changed.fleet(), -1);
+    const RouteOrder order = judge_.order(changed.sums(), changed.stops());
     for (int f = 0; f < instance_.fleetCount(); ++f) {
         if (f == changed.fleet()) continue;
         work_ += changed.size();
-        const RouteValue value = judge_.value(instance_.fleet(f), changed.sums(), changed.stops());
+        const RouteValue value = judge_.value(instance_.fleet(f), changed.sums(), order, changed.stops());
         const double cost = value.penalised + vehiclePenalty(f, 1) + freed;
         if (cost >= least) continue;
         least = cost;

@@ -2,9 +2,9 @@
 
 #include <array>
 #include <cstddef>
-#include <random>
 #include <vector>
 
+#include "solvers/OPTMZR/dice.h"
 #include "solvers/OPTMZR/route_value.h"
 #include "solvers/OPTMZR/solution.h"
 
@@ -92,13 +92,19 @@ class LocalSearch {
   public:
     explicit LocalSearch(const Instance& instance);
 
-    /// Improves a solution under these penalties. `random` sets the order in which stops are tried.
-    void improve(Solution& solution, const Penalties& penalties, std::mt19937& random);
+    /// From here on limits are counted.
+    void beStrict(const StrictPenalties& strict) { judge_.beStrict(strict); }
+
+    /// Improves a solution under these penalties. `dice` sets the order in which stops are tried.
+    void improve(Solution& solution, const Penalties& penalties, Dice& dice);
 
     /// Whether no limit is exceeded, and the cost with and without penalties, of what `improve` has left.
     bool isFeasible() const;
     RouteValue total() const;
     int missingVehicles() const;
+
+    /// Routes that go beyond a limit, each kind of limit counted, and vehicles that there aren't.
+    int violations() const;
 
     long long work() const { return work_; } ///< steps done since the beginning, a measure of time
 

@@ -2,23 +2,33 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <system_error>
+#include <string>
+#include <vector>
 
 #include "shell/base/number_text.h"
+#include "shell/base/runtime_error.h"
 #include "shell/base/solver_progress.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "solvers/OPTMZR/solve.h"
 #include "solvers/io_folder.h"
 #include "solvers/watch/watch.h"
+#include "solvers/whole_file.h"
 
 namespace {
 
 using namespace vantore;
 
 router::Problem readProblem(const std::filesystem::path& folder) {
-    ItemReader reader(readTextFile(folder / router::solverInputFile));
-    return router::read(reader);
+    const std::filesystem::path file = folder / router::solverInputFile;
+    try {
+        ItemReader reader(readTextFile(file));
+        return router::read(reader);
+    } catch (const RuntimeError& error) {
+        if (error.number() == ErrorNumber::FileNotFound) throw;
+        throw optmzr::Unsolvable(file.filename().string() + " can't be read as a problem. " + error.what() +
+                                 ".");
+    }
 }
 
 std::string progressLine(const router::Plan& plan, const optmzr::Judgement& judgement) {
@@ -30,22 +40,10 @@ std::string progressLine(const router::Plan& plan, const optmzr::Judgement& judg
     return line + ".";
 }
 
-void removeFile(const std::filesystem::path& file) {
-    std::error_code ignored;
-    const auto present = existingSpelling(file);
-    if (std::filesystem::is_regular_file(present, ignored)) std::filesystem::remove(present, ignored);
-}
-
-/// Writes the plan whole or leaves none behind.
-void write(const std::filesystem::path& file, const router::Plan& plan) {
+std::vector<std::string> linesOf(const router::Plan& plan) {
     ItemWriter writer;
     router::writePlan(plan, writer);
-    try {
-        writeLines(file, lines(writer.text()));
-    } catch (const std::exception&) {
-        removeFile(file);
-        throw;
-    }
+    return lines(writer.text());
 }
 
 } // namespace
@@ -64,7 +62,7 @@ int main() {
         };
         const router::Plan plan = optmzr::solve(problem, optmzr::usualSeconds, tell);
         removeProgress(folder);
-        write(folder / router::planFile, plan);
+        writeWhole(folder / router::planFile, linesOf(plan));
     } catch (const std::exception& error) {
         std::cerr << "OPTMZR.EXE: " << error.what() << std::endl;
         return EXIT_FAILURE;

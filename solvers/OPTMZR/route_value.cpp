@@ -10,6 +10,15 @@ double above(double value, double limit) {
     return std::max(0.0, value - limit);
 }
 
+/// What loads and distances may be beyond a limit by rounding.
+constexpr double slack = 1E-08;
+
+void miss(Misses& misses, double value, double limit, double unit) {
+    if (value <= limit + slack) return;
+    ++misses.count;
+    misses.excess += (value - limit) / (unit > 0 ? unit : 1);
+}
+
 double overload(Load load, Load capacity) {
     return above(load.weight, capacity.weight) + above(load.cube, capacity.cube);
 }
@@ -37,6 +46,11 @@ RouteSums sumsOf(const Instance& instance, std::span<const int> stops) {
 }
 
 void RouteJudge::penalise(RouteValue& value) const {
+    if (strict_) {
+        value.penalised =
+            value.cost + strict_->limit * value.misses.count + strict_->excess * value.misses.excess;
+        return;
+    }
     value.penalised = value.cost + penalties_.load * value.load + penalties_.minutes * value.minutes +
                       penalties_.distance * value.distance + penalties_.share * value.share;
 }
@@ -50,49 +64,106 @@ RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
     value.minutes = above(sums.minutes, instance_.maxMinutes) +
                     above(instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn);
     value.distance = above(sums.distance, instance_.maxDistance);
+    if (strict_) {
+        miss(value.misses, most.weight, fleet.capacity.weight, fleet.capacity.weight);
+        miss(value.misses, most.cube, fleet.capacity.cube, fleet.capacity.cube);
+        miss(value.misses, sums.distance, instance_.maxDistance, instance_.maxDistance);
+        miss(value.misses, sums.minutes, instance_.maxMinutes, router::minutesPerHour);
+    }
     penalise(value);
     return value;
+}
+
+RouteOrder RouteJudge::order(const RouteSums& sums, std::span<const int> stops) {
+    RouteOrder order;
+    if (instance_.loadsMix) carry(sums, stops, order);
+    if (!instance_.clockMatters && !strict_) return order;
+    const TimedRoute route = timedRoute(stops);
+    if (instance_.clockMatters) order.timing = bestTiming(instance_.clock, route);
+    if (strict_ && order.timing.excess() > 0)
+        order.timing = leastMisses(instance_.clock, route, instance_.maxMinutes, order.misses);
+    return order;
+}
+
+RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order,
+                             std::span<const int> stops) const {
+    RouteValue value = bound(fleet, sums);
+    if (instance_.loadsMix) {
+        value.load = overload(order.onBoard, fleet.capacity);
+        const Load allowed{fleet.capacity.weight * instance_.pickupShare,
+                           fleet.capacity.cube * instance_.pickupShare};
+        value.share = instance_.pickupShare >= 1 ? 0 : overload(order.leftAtPickup, allowed);
+    }
+    if (instance_.clockMatters) {
+        const double minutes = sums.minutes + order.timing.breakMinutes;
+        value.cost = instance_.routeCost(fleet, sums.distance, minutes);
+        value.minutes = above(minutes, instance_.maxMinutes) + order.timing.excess();
+    }
+    if (strict_) value.misses = missesOf(fleet, sums, order, stops);
+    penalise(value);
+    return value;
+}
+
+/// The limits that a route breaks, as a plan is judged.
+Misses RouteJudge::missesOf(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order,
+                            std::span<const int> stops) const {
+    Misses misses = order.misses;
+    if (misses.count == 0) {
+        const double minutes = sums.minutes + order.timing.breakMinutes;
+        miss(misses, minutes, instance_.maxMinutes, router::minutesPerHour);
+        miss(misses, instance_.clock.earliestStart + minutes, instance_.clock.latestReturn,
+             router::minutesPerHour);
+    }
+    miss(misses, sums.distance, instance_.maxDistance, instance_.maxDistance);
+    RouteOrder loads;
+    carry(sums, stops, loads);
+    miss(misses, loads.onBoard.weight, fleet.capacity.weight, fleet.capacity.weight);
+    miss(misses, loads.onBoard.cube, fleet.capacity.cube, fleet.capacity.cube);
+    missPickups(fleet, sums, stops, misses);
+    for (const int stop : stops)
+        if (instance_.customer(stop).open.neverOpen()) {
+            ++misses.count;
+            ++misses.excess;
+        }
+    return misses;
+}
+
+void RouteJudge::missPickups(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
+                             Misses& misses) const {
+    if (instance_.pickupShare >= 1) return;
+    Load left = sums.delivered;
+    for (const int stop : stops) {
+        const Customer& customer = instance_.customer(stop);
+        left = left - customer.delivered;
+        if (!customer.isPickup) continue;
+        miss(misses, left.weight, instance_.pickupShare * fleet.capacity.weight, fleet.capacity.weight);
+        miss(misses, left.cube, instance_.pickupShare * fleet.capacity.cube, fleet.capacity.cube);
+    }
 }
 
 RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops) {
-    RouteValue value = bound(fleet, sums);
-    if (stops.empty()) return value;
-    if (instance_.loadsMix) carry(fleet, sums, stops, value);
-    if (instance_.clockMatters) {
-        const Timing timing = timed(stops);
-        const double minutes = sums.minutes + timing.breakMinutes;
-        value.cost = instance_.routeCost(fleet, sums.distance, minutes);
-        value.minutes = above(minutes, instance_.maxMinutes) + timing.excess();
-    }
-    penalise(value);
-    return value;
+    return orderMatters() ? value(fleet, sums, order(sums, stops), stops) : bound(fleet, sums);
 }
 
 /// What is on board from the start, and what is left of it at each pickup.
-void RouteJudge::carry(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
-                       RouteValue& value) const {
+void RouteJudge::carry(const RouteSums& sums, std::span<const int> stops, RouteOrder& order) const {
     Load left = sums.delivered;
     Load onBoard = left;
-    Load most = onBoard;
-    Load leftAtPickup;
+    order.onBoard = onBoard;
     for (const int stop : stops) {
         const Customer& customer = instance_.customer(stop);
         if (customer.isPickup) {
-            leftAtPickup.weight = std::max(leftAtPickup.weight, left.weight);
-            leftAtPickup.cube = std::max(leftAtPickup.cube, left.cube);
+            order.leftAtPickup.weight = std::max(order.leftAtPickup.weight, left.weight);
+            order.leftAtPickup.cube = std::max(order.leftAtPickup.cube, left.cube);
         }
         left = left - customer.delivered;
         onBoard = onBoard - customer.delivered + customer.pickedUp;
-        most.weight = std::max(most.weight, onBoard.weight);
-        most.cube = std::max(most.cube, onBoard.cube);
+        order.onBoard.weight = std::max(order.onBoard.weight, onBoard.weight);
+        order.onBoard.cube = std::max(order.onBoard.cube, onBoard.cube);
     }
-    value.load = overload(most, fleet.capacity);
-    const Load allowed{fleet.capacity.weight * instance_.pickupShare,
-                       fleet.capacity.cube * instance_.pickupShare};
-    value.share = instance_.pickupShare >= 1 ? 0 : overload(leftAtPickup, allowed);
 }
 
-Timing RouteJudge::timed(std::span<const int> stops) {
+TimedRoute RouteJudge::timedRoute(std::span<const int> stops) {
     arrivals_.clear();
     open_.clear();
     double after = 0;
@@ -105,7 +176,7 @@ Timing RouteJudge::timed(std::span<const int> stops) {
         before = stop;
     }
     arrivals_.push_back(after + instance_.minutes(before, router::depotNumber));
-    return bestTiming(instance_.clock, {arrivals_, open_});
+    return {arrivals_, open_};
 }
 
 } // namespace vantore::optmzr

@@ -42,9 +42,10 @@ class Savings {
 
     CheapestRoute cheapest(std::vector<int> stops) {
         const RouteSums sums = sumsOf(instance_, stops);
+        const RouteOrder order = judge_.order(sums, stops);
         CheapestRoute best;
         for (int f = 0; f < instance_.fleetCount(); ++f) {
-            const double cost = judge_.value(instance_.fleet(f), sums, stops).penalised;
+            const double cost = judge_.value(instance_.fleet(f), sums, order, stops).penalised;
             if (f > 0 && cost >= best.cost) continue;
             best.cost = cost;
             best.route.fleet = f;

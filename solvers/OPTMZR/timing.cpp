@@ -4,13 +4,15 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <optional>
 
 namespace vantore::optmzr {
 
 namespace {
 
 constexpr double never = std::numeric_limits<double>::infinity();
-constexpr double tick = 0x1p-24; // minutes: what a start is past a break's time at least
+constexpr double leastExcess = 1E-06; // minutes, or hours, that count
+constexpr double tick = 0x1p-24;      // minutes: what a start is past a break's time at least
 
 /// A span of starts in which the same breaks are taken at the same arrivals.
 struct Phase {
@@ -172,6 +174,47 @@ Phase onlyPhase(const Clock& clock, const TimedRoute& route) {
     return {.from = clock.earliestStart, .arrivals = route.arrivals};
 }
 
+/// The starts of a phase at which a window begins or ends to be kept.
+std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route, const Phase& phase) {
+    std::vector<double> starts{phase.from};
+    const auto consider = [&](double start) {
+        if (start > phase.from && start <= phase.until) starts.push_back(start);
+    };
+    consider(phase.until < never ? phase.until : phase.from);
+    consider(clock.latestReturn - phase.arrivals.back());
+    for (std::size_t i = 0; i < route.open.size(); ++i) {
+        for (const Window& window : route.open[i]->windows()) {
+            consider(window.begin - phase.arrivals[i]);
+            consider(window.end - phase.arrivals[i]);
+        }
+    }
+    return starts;
+}
+
+/// Minutes from a clock to the nearest time at which a stop is open.
+double minutesOutside(const OpeningHours& open, double clock) {
+    double least = never;
+    for (const Window& window : open.windows())
+        least = std::min(least, std::max({0.0, window.begin - clock, clock - window.end}));
+    return open.neverOpen() ? 0 : least;
+}
+
+/// The times that a start misses.
+Misses missesAt(const Clock& clock, const TimedRoute& route, const Phase& phase, double start,
+                double maxMinutes) {
+    Misses misses;
+    const auto miss = [&misses](double minutes) {
+        if (minutes <= leastExcess) return;
+        ++misses.count;
+        misses.excess += minutes / router::minutesPerHour;
+    };
+    for (std::size_t i = 0; i < route.open.size(); ++i)
+        miss(minutesOutside(*route.open[i], start + phase.arrivals[i]));
+    miss(start + phase.arrivals.back() - clock.latestReturn);
+    miss(phase.arrivals.back() - maxMinutes);
+    return misses;
+}
+
 } // namespace
 
 OpeningHours::OpeningHours(const router::Stop& stop) {
@@ -198,23 +241,29 @@ Timing bestTiming(const Clock& clock, const TimedRoute& route) {
     return best;
 }
 
+Timing leastMisses(const Clock& clock, const TimedRoute& route, double maxMinutes, Misses& misses) {
+    std::optional<Timing> best;
+    Phases phases(clock, route);
+    do {
+        const Phase& phase = phases.now();
+        for (const double start : decisiveStartsOf(clock, route, phase)) {
+            const Misses now = missesAt(clock, route, phase, start, maxMinutes);
+            if (best && (now.count > misses.count ||
+                         (now.count == misses.count && now.excess >= misses.excess - leastExcess)))
+                continue;
+            misses = now;
+            best = Timing{.start = start, .latestStart = start, .breakMinutes = phase.breakMinutes};
+        }
+    } while (phases.now().from <= clock.latestReturn && phases.next());
+    return *best;
+}
+
 std::vector<double> decisiveStarts(const Clock& clock, const TimedRoute& route) {
     std::vector<double> starts;
     Phases phases(clock, route);
     do {
-        const Phase& phase = phases.now();
-        starts.push_back(phase.from);
-        if (phase.until < never) starts.push_back(phase.until);
-        const auto consider = [&](double start) {
-            if (start >= phase.from && start <= phase.until) starts.push_back(start);
-        };
-        consider(clock.latestReturn - phase.arrivals.back());
-        for (std::size_t i = 0; i < route.open.size(); ++i) {
-            for (const Window& window : route.open[i]->windows()) {
-                consider(window.begin - phase.arrivals[i]);
-                consider(window.end - phase.arrivals[i]);
-            }
-        }
+        const std::vector<double> ofPhase = decisiveStartsOf(clock, route, phases.now());
+        starts.insert(starts.end(), ofPhase.begin(), ofPhase.end());
     } while (phases.now().from <= clock.latestReturn && phases.next());
     std::sort(starts.begin(), starts.end());
     starts.erase(std::unique(starts.begin(), starts.end()), starts.end());

@@ -57,6 +57,18 @@ struct Timing {
     double excess() const { return tooEarly + tooLate; }
 };
 
+/// Limits that are broken: how many, and by how much.
+struct Misses {
+    int count = 0;
+    double excess = 0; ///< times in hours, loads and distances in parts of the limit
+
+    Misses& operator+=(const Misses& other) {
+        count += other.count;
+        excess += other.excess;
+        return *this;
+    }
+};
+
 /// The start that keeps all time windows with the shortest breaks; where there is none, one with the least
 /// excess. A vehicle never waits, so a later start moves every arrival and at certain starts brings a break
 /// forward; between those the arrivals keep their distances and each window allows one span of starts.
@@ -65,5 +77,9 @@ Timing bestTiming(const Clock& clock, const TimedRoute& route);
 /// All starts at which a window of the route begins or ends to be kept, or a break falls due: no start is
 /// better than the best of them.
 std::vector<double> decisiveStarts(const Clock& clock, const TimedRoute& route);
+
+/// Where not all times can be kept: the start that misses the fewest of them, windows, the latest return and
+/// `maxMinutes` on the road, and these by least.
+Timing leastMisses(const Clock& clock, const TimedRoute& route, double maxMinutes, Misses& misses);
 
 } // namespace vantore::optmzr

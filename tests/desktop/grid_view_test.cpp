@@ -200,6 +200,15 @@ TEST_F(GridViewTest, ADraggedEdgeOfAHeadingWidensItsColumn) {
     EXPECT_EQ(selection(), "1,1 - 1,1");
 }
 
+TEST_F(GridViewTest, AWideColumnLeavesRoomForTheOthers) {
+    form.grid.setColWidth(0, 100000);
+    form.grid.setColWidth(1, 100000);
+    open.window.refresh();
+    EXPECT_LE(view.verticalHeader()->width(), view.width() / 2 + 1);
+    EXPECT_LE(view.cellRect(1, 1).width(), view.width() / 2);
+    EXPECT_GE(view.cellRect(1, 1).width(), view.width() / 2 - 30);
+}
+
 TEST_F(GridViewTest, NumbersStandAtTheRight) {
     form.grid.setCell(1, 1, "A");
     form.grid.setCell(1, 2, "2");

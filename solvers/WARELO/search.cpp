@@ -1,0 +1,92 @@
+#include "solvers/WARELO/search.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
+#include <utility>
+
+#include "solvers/WARELO/bound.h"
+#include "solvers/WARELO/local_search.h"
+
+namespace vantore::warelo {
+
+namespace {
+
+constexpr int firstPasses = 6;
+constexpr int mostSteps = 600;
+constexpr int stepsPerStart = 20;
+constexpr double goodEnough = 1E-7; // of the cost
+
+/// The best of both so far, told whenever it gets better.
+class Progress {
+  public:
+    Progress(const Network& network, const Hear& hear) : network_(network), hear_(hear) {}
+
+    const Found& found() const { return found_; }
+
+    void take(Allocation allocation) {
+        const double cost = costOf(network_, allocation);
+        if (!found_.allocation.empty() && cost >= found_.cost) return;
+        found_.allocation = std::move(allocation);
+        found_.cost = cost;
+        hear_(found_);
+    }
+
+    void take(double bound) {
+        found_.bound = std::max(found_.bound, bound);
+        hear_(found_);
+    }
+
+  private:
+    const Network& network_;
+    const Hear& hear_;
+    Found found_;
+};
+
+/// Without limits of capacity first, then at the prices of the allocation before, in which a warehouse's
+/// inventory has its share in each cwt.
+Allocation firstAllocation(const Network& network) {
+    std::vector<double> price(network.warehouses.size());
+    for (std::size_t w = 0; w < price.size(); ++w) {
+        price[w] = std::numeric_limits<double>::infinity();
+        for (std::size_t p = 0; p < network.plants.size(); ++p)
+            price[w] = std::min(price[w], network.supplyCostOf(p, w));
+    }
+    Allocation allocation = cheapestAllocation(network, price);
+    for (int pass = 0; pass < firstPasses; ++pass) {
+        const std::vector<double> throughput = throughputOf(network, allocation);
+        price = cheapestSupply(network, throughput).warehousePrice;
+        for (std::size_t w = 0; w < price.size(); ++w)
+            if (throughput[w] > 0) price[w] += network.inventoryCost(w, throughput[w]) / throughput[w];
+        allocation = cheapestAllocation(network, price);
+    }
+    return allocation;
+}
+
+bool servesSomebody(const std::vector<double>& warehousePrice) {
+    return std::ranges::any_of(warehousePrice,
+                               [](double price) { return price < std::numeric_limits<double>::infinity(); });
+}
+
+} // namespace
+
+void search(const Network& network, const Hear& hear) {
+    Progress progress(network, hear);
+    const Allocation first = firstAllocation(network);
+    progress.take(first);
+    progress.take(improved(network, first));
+    Bound bound(network, progress.found().allocation);
+    std::set<Allocation> starts;
+    for (int step = 1; step <= mostSteps && bound.step(progress.found().cost); ++step) {
+        if (step % stepsPerStart != 0) continue;
+        progress.take(bound.value());
+        if (progress.found().gap() <= goodEnough) return;
+        const std::vector<double> price = bound.warehousePrice();
+        if (!servesSomebody(price)) continue;
+        const Allocation start = cheapestAllocation(network, price);
+        if (starts.insert(start).second) progress.take(improved(network, start));
+    }
+    progress.take(bound.value());
+}
+
+} // namespace vantore::warelo

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "solvers/WARELO/bound.h"
+#include "solvers/WARELO/local_search.h"
+#include "solvers/WARELO/messages.h"
+#include "solvers/WARELO/search.h"
+#include "tests/solvers/WARELO/cases.h"
+#include "tests/solvers/WARELO/yardstick.h"
+
+namespace vantore::warelo {
+namespace {
+
+Found best(const Case& problem) {
+    Found last;
+    search(networkOf(problem), [&](const Found& found) { last = found; });
+    return last;
+}
+
+/// A case in which two warehouses lie beside two customers.
+Case twoTowns() {
+    Case problem = tests::freeCase();
+    problem.warehouseCount = problem.customerCount = 2;
+    problem.warehouses(2) = problem.warehouses(1);
+    problem.customers(2) = problem.customers(1);
+    problem.warehouses(2).x = problem.customers(2).x = 42;
+    problem.warehouseCustomerFixed = 1;
+    problem.inventoryConstant = 1;
+    problem.productValue = 1;
+    problem.capitalCost = 100;
+    return problem;
+}
+
+TEST(WareloSearch, ServesEachTownFromItsOwnWarehouse) {
+    Case problem = twoTowns();
+    problem.inventoryExponent = 1;
+    const Found found = best(problem);
+    EXPECT_EQ(found.allocation, (Allocation{0, 1}));
+    EXPECT_DOUBLE_EQ(found.cost, 20); // 20 cwt. in inventory, locally delivered for nothing
+    EXPECT_NEAR(found.bound, 20, 1E-6);
+}
+
+TEST(WareloSearch, PutsInventoriesTogetherWhereThatSavesMore) {
+    Case problem = twoTowns();
+    problem.inventoryConstant = 30;
+    problem.inventoryExponent = 0;
+    const Found found = best(problem);
+    EXPECT_EQ(found.allocation[0], found.allocation[1]);
+    EXPECT_DOUBLE_EQ(found.cost, 40); // one inventory of 30, 10 cwt. sent for 1 $
+    EXPECT_NEAR(found.bound, 40, 1E-6);
+}
+
+TEST(WareloSearch, FindsTheLeastCostOfAllAllocations) {
+    std::mt19937 random(3);
+    for (int i = 0; i < 300; ++i) {
+        const Case problem = tests::randomCase(random, {.plants = 3, .warehouses = 4, .customers = 5});
+        const double least = tests::leastCostByEnumeration(problem);
+        const Found found = best(problem);
+        EXPECT_NEAR(found.cost, least, 1E-6 * least) << "problem " << i;
+        EXPECT_LE(found.bound, least * (1 + 1E-9)) << "problem " << i;
+    }
+}
+
+TEST(WareloSearch, KeepsTheBoundBelowAndTheCostBestFromCallToCall) {
+    std::mt19937 random(4);
+    for (int i = 0; i < 100; ++i) {
+        const Network network = networkOf(tests::randomCase(random, {.warehouses = 12, .customers = 60}));
+        Found before;
+        search(network, [&](const Found& found) {
+            if (!before.allocation.empty()) {
+                EXPECT_LE(found.cost, before.cost);
+                EXPECT_GE(found.bound, before.bound);
+            }
+            EXPECT_LE(found.bound, found.cost * (1 + 1E-9));
+            EXPECT_NEAR(found.cost, costOf(network, found.allocation), 1E-9 * found.cost);
+            before = found;
+        });
+        ASSERT_EQ(before.allocation.size(), network.customers.size());
+    }
+}
+
+/// The base case with other plants and warehouses selected, enough of them for the sales.
+Case baseCaseWith(std::mt19937& random) {
+    Case problem = tests::baseCase();
+    std::bernoulli_distribution half(.5);
+    do {
+        for (int p = 1; p <= problem.plantCount; ++p)
+            problem.plants(p).selection = half(random) ? wareloca::mark : "";
+        for (int w = 1; w <= problem.warehouseCount; ++w)
+            problem.warehouses(w).selection = half(random) ? wareloca::mark : "";
+    } while (faultIn(problem));
+    return problem;
+}
+
+TEST(WareloSearch, ProvesTheBaseCaseWithinAThousandth) {
+    EXPECT_LT(best(tests::baseCase()).gap(), 1E-3);
+}
+
+TEST(WareloSearch, ProvesRandomSelectionsWithinAThousandth) {
+    std::mt19937 random(5);
+    for (int i = 0; i < 5; ++i) EXPECT_LT(best(baseCaseWith(random)).gap(), 1E-3) << "selection " << i;
+}
+
+TEST(WareloSearch, ComesWithinAThousandthOfTheLinearRelaxation) {
+    std::mt19937 random(6);
+    for (int i = 0; i < 3; ++i) {
+        Case problem = baseCaseWith(random);
+        for (int w = 1; w <= problem.warehouseCount; ++w)
+            if (w % 4 != i) problem.warehouses(w).selection = "";
+        for (int c = 1; c <= problem.customerCount; ++c)
+            if (c % 6 != i) problem.customers(c).sales = 0;
+        problem.warehouses(1).selection = wareloca::mark;
+        const double relaxation = tests::linearBound(problem, 8);
+        const Found found = best(problem);
+        EXPECT_GE(found.cost, relaxation * (1 - 1E-9));
+        EXPECT_LE(found.cost, relaxation * 1.001);
+        EXPECT_GE(found.bound, relaxation * .999);
+    }
+}
+
+TEST(LocalSearch, NeverMakesAnAllocationDearer) {
+    std::mt19937 random(7);
+    for (int i = 0; i < 100; ++i) {
+        const Network network = networkOf(tests::randomCase(random, {.warehouses = 10, .customers = 40}));
+        Allocation start;
+        for (std::size_t c = 0; c < network.customers.size(); ++c)
+            start.push_back(c % network.warehouses.size());
+        const Allocation better = improved(network, start);
+        EXPECT_LE(costOf(network, better), costOf(network, start));
+        EXPECT_EQ(improved(network, better), better);
+    }
+}
+
+TEST(LocalSearch, ClosesAWarehouseThatDoesNotPay) {
+    Case problem = twoTowns();
+    problem.inventoryConstant = 30;
+    problem.inventoryExponent = 0;
+    const Allocation together = improved(networkOf(problem), {0, 1});
+    EXPECT_EQ(together[0], together[1]);
+}
+
+TEST(WareloBound, IsExactAtTheStartWhereNothingPullsApart) {
+    Case problem = twoTowns();
+    problem.inventoryExponent = 1;
+    const Bound bound(networkOf(problem), {0, 1});
+    EXPECT_NEAR(bound.value(), 20, 1E-9);
+}
+
+TEST(WareloMessages, ArriveAsTheyWereSent) {
+    const Found found{{3, 0, 47}, 45106853.1234567, 1.0 / 3};
+    const Found heard = foundFrom(toText(found));
+    EXPECT_EQ(heard.allocation, found.allocation);
+    EXPECT_EQ(heard.cost, found.cost);
+    EXPECT_EQ(heard.bound, found.bound);
+    EXPECT_THROW(foundFrom("1 2 3 4"), std::runtime_error);
+}
+
+} // namespace
+} // namespace vantore::warelo
