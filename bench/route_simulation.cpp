@@ -19,11 +19,12 @@ Problem largestProblem() {
     std::mt19937 random(61);
     Problem problem;
     problem.breaks(1) = {20, 600};
-    Vehicle& van = problem.vehicles.add({});
+    Vehicle van;
     van.number = 20;
     van.weightCapacity = 900;
     van.fixedCost = 40;
     van.costPerMile = .5;
+    problem.vehicles.add(van);
     for (int i = 1; i <= mostStops; ++i) {
         Stop stop;
         stop.type = delivery;
