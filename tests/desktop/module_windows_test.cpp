@@ -80,7 +80,7 @@ const std::vector<ModuleTour>& tours() {
           {"page6", "tab 6"},
           {"page7", "tab 7"},
           {"page8", "tab 8"},
-          {"plot", "answer 1\npress cmdContinueSpeeds\npress cmdSolve"},
+          {"plot", "answer 1\npress cmdContinueValid\npress cmdSolve"},
           {"report", "press cmdContinuePlot\nanswer Plan A\npress cmdReport"}},
          "OPTMZR.EXE"},
         {"ROUTESEQ",
@@ -111,7 +111,7 @@ const std::vector<ModuleTour>& tours() {
           {"warehouses", "tab 1"},
           {"customers", "tab 2"},
           {"report", "press cmdSolve"},
-          {"plot", "press cmdPlot"}},
+          {"plot", "answer 5\nanswer Yes\nanswer Yes\npress cmdPlot"}},
          "WARELO.EXE"}};
     return all;
 }
@@ -130,7 +130,7 @@ struct Screen {
 const std::string longText = "A text that is longer than any place for it in a window has room to show: "
                              "so it is cut there and comes whole as a tip when the pointer rests on it";
 
-/// Puts a long text where a user can type one that is no number.
+/// Puts a long text where a user can type one that is no number and no letter of a choice.
 void typeLongTexts(Form& form) {
     for (const auto& control : form.controls()) {
         auto* box = dynamic_cast<TextBox*>(control.get());
@@ -138,8 +138,9 @@ void typeLongTexts(Form& form) {
             form.type(*box, longText);
         auto* grid = dynamic_cast<DataGrid*>(control.get());
         if (grid == nullptr || !grid->shown()) continue;
-        for (int column = 1; column < grid->cols(); ++column)
-            if (!grid->numeric(column)) form.typeCell(*grid, 1, column, longText);
+        for (int column = 1; column < grid->cols() && grid->rows() > 1; ++column)
+            if (!grid->numeric(column) && grid->cell(1, column).size() > 1)
+                form.typeCell(*grid, 1, column, longText);
     }
 }
 
