@@ -8,9 +8,9 @@
 #include "solvers/WARELO/network.h"
 #include "solvers/WARELO/search.h"
 
-/// WARELO.EXE's search on the base case and on random selections of its plants and warehouses: the gap between
-/// the cost and the proven lower bound in thousandths of a percent, on the average and at most, and how many
-/// selections are proved within a thousandth of a percent.
+/// WARELO.EXE's search on the base case and on random selections of its plants and warehouses: the gap
+/// between the cost and the proven lower bound in thousandths of a percent, on the average and at most, and
+/// how many selections are proved within a thousandth of a percent.
 
 namespace {
 

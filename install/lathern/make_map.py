@@ -22,7 +22,7 @@ SMALLEST_ISLAND = 0.15  # degrees across
 
 # The map lies in the middle of an area of these proportions, true to shape at the middle latitude.
 AREA_WIDTH, AREA_HEIGHT = 634, 428
-WEST, EAST = 126.0, 65.5
+WEST, EAST = 125.3, 62.8
 MIDDLE_LATITUDE = 37.5
 
 TEXT = "Conterminous United States, from the U.S. Census Bureau's cartographic boundary files of 2017"

@@ -158,16 +158,16 @@ void WARELOCA::addWarehousePage() {
     grdWhse = &addTable("grdWhse", warehousePage, tableHeight);
     warehouses_ = {*grdWhse,
                    warehouseColumns,
-                   {{"No.", 500},
-                    {"Selec-\r\ntion", 620},
-                    {"Warehouse location", 1750},
-                    {"Storage,\r\n$/$", 850, "###.0000"},
-                    {"Handling,\r\n$/cwt.", 850, "##.00"},
-                    {"Stock order\r\nprocessing,\r\n$/order", 1000, "##.00"},
-                    {"Stock order\r\nsize,\r\ncwt./order", 1000, "##.00"},
-                    {"Customer order\r\nprocessing,\r\n$/order", 1250, "##.00"},
-                    {"Customer order\r\nsize,\r\ncwt./order", 1250, "##.00"},
-                    {"Local delivery\r\nrate,\r\n$/cwt.", 1150, "##.00"}}};
+                   {{"No.", 400},
+                    {"Selec-\r\ntion", 540},
+                    {"Warehouse location", 1440},
+                    {"Storage,\r\n$/$", 690, "###.0000"},
+                    {"Handling,\r\n$/cwt.", 750, "##.00"},
+                    {"Stock order\r\nprocessing,\r\n$/order", 910, "##.00"},
+                    {"Stock order\r\nsize,\r\ncwt./order", 890, "##.00"},
+                    {"Customer order\r\nprocessing,\r\n$/order", 1110, "##.00"},
+                    {"Customer order\r\nsize,\r\ncwt./order", 1110, "##.00"},
+                    {"Local delivery\r\nrate,\r\n$/cwt.", 1000, "##.00"}}};
     addSelectionColumn(*grdWhse);
 }
 

@@ -21,7 +21,8 @@ constexpr double wellEnough = 5E-5; // of the cost: not worth halving ranges for
 
 /// Brackets that may be looked at while ranges are halved: customers x warehouses x steps. The search then
 /// takes less than a second.
-constexpr double mostWork = 6E+7;
+constexpr double mostWork = 4E+7;
+constexpr int mostHalvings = 100;
 
 /// The best of both so far, told whenever it gets better.
 class Progress {
@@ -91,7 +92,8 @@ class Halving {
 
     void run(const Bound& whole) {
         std::vector<Bound> open = {whole};
-        while (!open.empty() && work_ < mostWork && progress_.found().gap() > wellEnough) {
+        for (int halving = 0; halving < mostHalvings && work_ < mostWork; ++halving) {
+            if (progress_.found().gap() <= wellEnough) return;
             const auto lowest = std::ranges::min_element(open, {}, &Bound::value);
             const Bound bound = *lowest;
             open.erase(lowest);

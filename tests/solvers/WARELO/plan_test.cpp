@@ -47,7 +47,7 @@ TEST(WareloPlan, GivesEachPlantACustomerWhereThereAreEnough) {
 
 TEST(WareloPlan, AddsUpToTheCostOfTheSearch) {
     std::mt19937 random(10);
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 50; ++i) {
         const Case problem = tests::randomCase(random, {.warehouses = 10, .customers = 40});
         const Network network = networkOf(problem);
         Found best;

@@ -143,7 +143,7 @@ TEST_F(WareloProgram, ServesAllCustomersOfTheBaseCase) {
         fs::copy_file(fs::path(VANTORE_SOURCE_FOLDER) / "install" / name, file(name),
                       fs::copy_options::overwrite_existing);
     EXPECT_EQ(run(folder_.path(),
-                  "VANTORE_IO='" + folder_.path().string() + "/' timeout 5 '" + program.string() + "'"),
+                  "VANTORE_IO='" + folder_.path().string() + "/' timeout 60 '" + program.string() + "'"),
               0);
     ItemReader flows(readTextFile(file("TEMP.DAT")));
     EXPECT_EQ(wareloca::readFlows(flows).size(), 191U);

@@ -65,7 +65,7 @@ TEST(WareloSearch, FindsTheLeastCostOfAllAllocations) {
 
 TEST(WareloSearch, KeepsTheBoundBelowAndTheCostBestFromCallToCall) {
     std::mt19937 random(4);
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < 20; ++i) {
         const Network network = networkOf(tests::randomCase(random, {.warehouses = 12, .customers = 60}));
         Found before;
         search(network, [&](const Found& found) {
