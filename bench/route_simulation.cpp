@@ -19,7 +19,11 @@ Problem largestProblem() {
     std::mt19937 random(61);
     Problem problem;
     problem.breaks(1) = {20, 600};
-    problem.vehicles.add({.number = 20, .weightCapacity = 900, .fixedCost = 40, .costPerMile = .5});
+    Vehicle& van = problem.vehicles.add({});
+    van.number = 20;
+    van.weightCapacity = 900;
+    van.fixedCost = 40;
+    van.costPerMile = .5;
     for (int i = 1; i <= mostStops; ++i) {
         Stop stop;
         stop.type = delivery;
@@ -54,7 +58,11 @@ void costOfAPlan(benchmark::State& state) {
     const Travel travel(problem);
     std::vector<PlannedRoute> routes;
     for (int stop = 1; stop <= mostStops; ++stop) {
-        if (stop % 6 == 1) routes.push_back({.vehicle = 1, .start = 480});
+        if (stop % 6 == 1) {
+            routes.emplace_back();
+            routes.back().vehicle = 1;
+            routes.back().start = 480;
+        }
         routes.back().stops.push_back(stop);
     }
     for (auto _ : state) {

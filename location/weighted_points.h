@@ -28,6 +28,27 @@ inline constexpr std::array<Field<WeightedPoint>, 5> weightedPointFields = {
     &WeightedPoint::label, &WeightedPoint::x, &WeightedPoint::y, &WeightedPoint::volume,
     &WeightedPoint::rate};
 
+/// Reads a problem that is its scalars and at most so many points. InputPastEnd for a short file,
+/// SubscriptOutOfRange for a count of points outside 0 to `mostPoints`.
+template <class Problem>
+Problem readWithPoints(ItemReader& reader, std::span<const Field<Problem>> scalars, int mostPoints) {
+    Problem problem;
+    readFields<Problem>(reader, problem, scalars);
+    problem.rowCount = reader.readCount(mostPoints);
+    for (int i = 1; i <= problem.rowCount; ++i)
+        readFields<WeightedPoint>(reader, problem.points(i), weightedPointFields);
+    return problem;
+}
+
+/// Writes one; the points' labels without blanks at their ends, an empty one as one blank.
+template <class Problem>
+void writeWithPoints(const Problem& problem, std::span<const Field<Problem>> scalars, ItemWriter& writer) {
+    writeFields<Problem>(writer, problem, scalars);
+    writer.endLine().number(problem.rowCount).endLine();
+    for (int i = 1; i <= problem.rowCount; ++i)
+        writeRow<WeightedPoint>(writer, problem.points(i), weightedPointFields);
+}
+
 struct Location {
     double x = 0;
     double y = 0;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <initializer_list>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "shell/base/number_text.h"
@@ -18,8 +18,8 @@ template <class Record>
 class Fields {
   public:
     Fields() = default;
-    Fields(std::span<const Field<Record>> fields, std::initializer_list<TextBox*> boxes)
-        : fields_(fields), boxes_(boxes) {
+    Fields(std::span<const Field<Record>> fields, std::vector<TextBox*> boxes)
+        : fields_(fields), boxes_(std::move(boxes)) {
         checkIndex(static_cast<long long>(boxes_.size()), static_cast<long long>(fields_.size()),
                    static_cast<long long>(fields_.size()));
     }

@@ -1,8 +1,6 @@
 #include "solvers/io_folder.h"
 
 #include <cstdlib>
-#include <exception>
-#include <system_error>
 
 #include "shell/base/driver_file.h"
 #include "shell/base/text_file.h"
@@ -15,17 +13,6 @@ std::filesystem::path solverIoFolder() {
     if (folder != nullptr && *folder != '\0') return pathOf(folder);
     const auto program = std::filesystem::read_symlink("/proc/self/exe");
     return pathOf(DriverReader(program.parent_path() / "VANTORE.DRV").readFolder());
-}
-
-void writeWhole(const std::filesystem::path& file, const std::vector<std::string>& lines) {
-    try {
-        writeLines(file, lines);
-    } catch (const std::exception&) {
-        std::error_code ignored;
-        const auto written = existingSpelling(file);
-        if (std::filesystem::is_regular_file(written, ignored)) std::filesystem::remove(written, ignored);
-        throw;
-    }
 }
 
 } // namespace vantore

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <vector>
 
 namespace vantore {
 
@@ -10,8 +8,5 @@ namespace vantore {
 /// when it starts the program, else what VANTORE.DRV beside the program says. RuntimeErrors as `readTextFile`
 /// and `DriverReader` give them.
 std::filesystem::path solverIoFolder();
-
-/// Writes the lines of a file whole or leaves none behind. Errors as `writeLines` gives them.
-void writeWhole(const std::filesystem::path& file, const std::vector<std::string>& lines);
 
 } // namespace vantore

@@ -21,9 +21,9 @@ TOLERANCE = 0.02  # degrees that a simplified line may be off
 SMALLEST_ISLAND = 0.15  # degrees across
 
 # The map lies in the middle of an area of these proportions, true to shape at the middle latitude.
-AREA_WIDTH, AREA_HEIGHT = 634, 396
+AREA_WIDTH, AREA_HEIGHT = 634, 428
 WEST, EAST = 126.0, 65.5
-MIDDLE_LATITUDE = 37.0
+MIDDLE_LATITUDE = 37.5
 
 TEXT = "Conterminous United States, from the U.S. Census Bureau's cartographic boundary files of 2017"
 

@@ -22,17 +22,11 @@ std::string skeleton() {
 }
 
 Problem read(ItemReader& reader) {
-    Problem problem;
-    readFields<Problem>(reader, problem, scalarFields);
-    problem.rowCount = reader.readCount(mostPoints);
-    for (int i = 1; i <= problem.rowCount; ++i) readFields<Point>(reader, problem.points(i), pointFields);
-    return problem;
+    return readWithPoints<Problem>(reader, scalarFields, mostPoints);
 }
 
 void write(const Problem& problem, ItemWriter& writer) {
-    writeFields<Problem>(writer, problem, scalarFields);
-    writer.endLine().number(problem.rowCount).endLine();
-    for (int i = 1; i <= problem.rowCount; ++i) writeRow<Point>(writer, problem.points(i), pointFields);
+    writeWithPoints<Problem>(problem, scalarFields, writer);
 }
 
 std::optional<Message> fault(const Problem& problem) {

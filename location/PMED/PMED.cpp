@@ -53,7 +53,7 @@ void PMED::addFields() {
     FieldColumn label{.left = 120, .top = 120, .captionWidth = 2600, .boxWidth = 3500};
     FieldColumn count{.left = 120, .top = 540, .captionWidth = 2600, .boxWidth = 800};
     FieldColumn scales{.left = 120, .top = 960, .captionWidth = 2600, .boxWidth = 800};
-    FieldColumn vertical{.left = 3660, .top = 960, .captionWidth = 2100, .boxWidth = 800};
+    FieldColumn vertical{.left = 3640, .top = 960, .captionWidth = 1900, .boxWidth = 800};
     auto& txtLabel = addField(label, "txtLabel", "Problem label:");
     txtNoLoc = &addField(count, "txtNoLoc", "Number of facilities to locate");
     auto& txtHScale = addField(scales, "txtHScale", "Horizontal scaling factor");
@@ -66,10 +66,10 @@ void PMED::addFields() {
 }
 
 void PMED::addCoordinates() {
-    auto& frame = addContainer("fraCoordinates", "COORDINATE OPTIONS", {6760, 90, 2720, 1250},
+    auto& frame = addContainer("fraCoordinates", "COORDINATE OPTIONS", {6460, 90, 3020, 1250},
                                {View::Start, View::Data});
-    optLinear = &addOption("optLinear", "Linear grid coordinates", {6900, 420, 2500, 300}, frame);
-    optLatLon = &addOption("optLatLon", "Latitude/Longitude coordinates", {6900, 840, 2500, 300}, frame);
+    optLinear = &addOption("optLinear", "Linear grid coordinates", {6620, 420, 2780, 300}, frame);
+    optLatLon = &addOption("optLatLon", "Latitude/Longitude coordinates", {6620, 840, 2780, 300}, frame);
     optLatLon->tip = "Latitude and longitude are in degrees.";
     optLinear->selected = true;
     for (Option* option : {optLinear, optLatLon}) option->onPress = [this] { nameCoordinates(); };
@@ -81,7 +81,7 @@ void PMED::addSites() {
     sites_ = {*Grid,
               siteFields,
               {{"Point\r\nno.", 700},
-               {"Point label", 2300},
+               {"Point label", 2000},
                {"X coor-\r\ndinate", 1000},
                {"Y coor-\r\ndinate", 1000},
                {"Volume", 1200},
@@ -208,19 +208,13 @@ void PMED::fillBlankCells() {
 void PMED::solve() {
     hasOutcome_ = false;
     const SolverInput input{readControls(), val(txtNoLoc->text())};
-    const auto writeItems = [&](void (*itemsOf)(const SolverInput&, ItemWriter&)) {
-        ItemWriter writer;
-        itemsOf(input, writer);
-        writeLines(suite().ioPath(solverInput), lines(writer.text()));
+    const auto writeItems = [this](const std::string& text) {
+        writeLines(suite().ioPath(solverInput), lines(text));
     };
-    // The points are written before they are looked at; what is wrong with them leaves the last line out.
-    const SolverJob points{
-        solverProgram,
-        [&] { writeItems([](const SolverInput& in, ItemWriter& writer) { write(in.problem, writer); }); },
-        {}};
-    if (!solver.writeInput(points)) return;
+    // The points are written before they are looked at: what is wrong with them leaves the last line out.
+    if (!solver.writeInput({solverProgram, [&] { writeItems(pointsText(input.problem)); }, {}})) return;
     if (const auto found = fault(input.problem, input.sitesToLocate)) return backToData(*found);
-    if (!solver.run({solverProgram, [&] { writeItems(writeInput); }, {solverOutput}})) return;
+    if (!solver.run({solverProgram, [&] { writeItems(inputText(input)); }, {solverOutput}})) return;
     report->clear();
     showView(View::Report);
     ItemReader reader(readTextFile(suite().ioPath(solverOutput)));

@@ -78,9 +78,17 @@ SolverInput readItems(StrictReader reader) {
 
 } // namespace
 
-void writeInput(const SolverInput& input, ItemWriter& writer) {
+std::string inputText(const SolverInput& input) {
+    ItemWriter writer;
     write(input.problem, writer);
     writer.number(input.sitesToLocate).number(input.problem.candidateCount()).endLine();
+    return writer.text();
+}
+
+std::string pointsText(const Problem& problem) {
+    ItemWriter writer;
+    write(problem, writer);
+    return writer.text();
 }
 
 SolverInput readInput(ItemReader& reader) {
@@ -91,10 +99,11 @@ SolverInput readInput(ItemReader& reader) {
     }
 }
 
-void writeAssignment(const Assignment& assignment, int pointCount, ItemWriter& writer) {
+std::string assignmentText(const Assignment& assignment, int pointCount) {
+    ItemWriter writer;
     writer.number(pointCount).endLine();
     for (int i = 1; i <= pointCount; ++i) writer.number(i).number(assignment.servedBy(i)).endLine();
-    writer.number(assignment.totalCost).endLine();
+    return writer.number(assignment.totalCost).endLine().text();
 }
 
 Assignment readAssignment(ItemReader& reader, int pointCount) {

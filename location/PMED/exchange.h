@@ -1,6 +1,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
 
 #include "location/PMED/problem.h"
 
@@ -26,12 +27,15 @@ class MalformedInput : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-void writeInput(const SolverInput& input, ItemWriter& writer);
+std::string inputText(const SolverInput& input);
+
+/// The part of an input that holds the points, without its last line.
+std::string pointsText(const Problem& problem);
 
 /// MalformedInput where the items are no problem in which as many sites as asked for can be chosen.
 SolverInput readInput(ItemReader& reader);
 
-void writeAssignment(const Assignment& assignment, int pointCount, ItemWriter& writer);
+std::string assignmentText(const Assignment& assignment, int pointCount);
 
 /// The assignment of so many points; its pairs come in any order. InputPastEnd for a short file,
 /// SubscriptOutOfRange where a point isn't served or one that isn't there serves.

@@ -10,7 +10,7 @@ namespace {
 // Units of the design.
 constexpr double labelTop = 32;
 constexpr double listTop = 64;
-constexpr MapArea mapArea = {150, 44, 484, 327}; // beside the list, in the map's proportions
+constexpr MapArea mapArea = {186, 56, 448, 302}; // beside the list, in the map's proportions
 constexpr double numberRight = 4;
 constexpr double numberUp = 6;
 

@@ -1,12 +1,12 @@
 #include "location/WARELOCA/plot.h"
 
+#include "location/point_plot.h"
+
 namespace vantore::wareloca {
 
 namespace {
 
-// Units of the design.
-constexpr MapArea mapArea{0, 32, 634, 396};
-constexpr double halfMarker = 2;
+constexpr MapArea mapArea{0, 32, 634, 428}; // as large as the surface
 
 class MapPlot {
   public:
@@ -16,11 +16,7 @@ class MapPlot {
         surface_.ink = colour::black;
     }
 
-    void mark(Place place) {
-        const PlotPoint p = on(place);
-        surface_.box((p.x - halfMarker) * scale_.x, (p.y - halfMarker) * scale_.y,
-                     (p.x + halfMarker) * scale_.x, (p.y + halfMarker) * scale_.y, colour::black, true);
-    }
+    void mark(Place place) { drawPoint(surface_, scale_, on(place)); }
 
     void connect(Place from, Place to, int ink) {
         const PlotPoint a = on(from);

@@ -31,7 +31,7 @@ void printScalars(PrintLines& page, const Case& problem) {
 
 void printPlants(PrintLines& page, const Case& problem) {
     page.line("").line("Plants:");
-    page.line(" No.  X Location               Capacity   Prod. cost");
+    page.text(" No.  X Location").right(41, "Capacity").right(54, "Prod. cost").endLine();
     for (int i = 1; i <= problem.plantCount; ++i) {
         const Plant& plant = problem.plants(i);
         printHead(page, i, plant.selection, plant.location);
@@ -43,8 +43,10 @@ void printPlants(PrintLines& page, const Case& problem) {
 
 void printWarehouses(PrintLines& page, const Case& problem) {
     page.line("").line("Warehouses:");
-    page.line("                              Sto-   Hand-  Stock order   Cust. order  Local");
-    page.line(" No.  X Location              rage    ling  cost    size   cost   size delivery");
+    page.right(36, "Sto-").right(43, "Hand-").right(56, "Stock order").right(70, "Cust. order");
+    page.right(80, "Local").endLine();
+    page.text(" No.  X Location").right(36, "rage").right(43, "ling").right(50, "cost").right(58, "size");
+    page.right(65, "cost").right(72, "size").right(80, "deliv.").endLine();
     for (int i = 1; i <= problem.warehouseCount; ++i) {
         const Warehouse& warehouse = problem.warehouses(i);
         printHead(page, i, warehouse.selection, warehouse.location);
@@ -59,7 +61,7 @@ void printWarehouses(PrintLines& page, const Case& problem) {
 
 void printCustomers(PrintLines& page, const Case& problem) {
     page.line("").line("Customers:");
-    page.line(" No.    Location             Region         Sales");
+    page.text(" No.    Location").right(36, "Region").right(50, "Sales").endLine();
     for (int i = 1; i <= problem.customerCount; ++i) {
         const Customer& customer = problem.customers(i);
         printHead(page, i, "", customer.location);

@@ -87,7 +87,6 @@ class ROUTER : public ModuleFrame {
     Sheet<ZoneSpeed> zoneSpeeds_;
     Sheet<SpecifiedLeg> speeds_;
     Sheet<Barrier> barriers_;
-    TextBox* txtDepot = nullptr;
     Button* cmdReport = nullptr;
 
     bool editing_ = false;       // the pages are shown

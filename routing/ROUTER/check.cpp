@@ -262,9 +262,8 @@ class DataCheck {
 
     /// One message for each comma and each apostrophe.
     void checkName(const std::string& name, const std::string& place) {
-        for (auto left = std::ranges::count_if(name, [](char c) { return c == ',' || c == '\''; }); left > 0;
-             --left)
-            checkIf(true, "THERE IS A COMMA (,) AND/OR AN APOSTROPHE (') IN " + place);
+        for (const char c : name)
+            checkIf(c == ',' || c == '\'', "THERE IS A COMMA (,) AND/OR AN APOSTROPHE (') IN " + place);
     }
 
     void checkNames() {

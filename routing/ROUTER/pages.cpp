@@ -1,4 +1,6 @@
 #include <array>
+#include <span>
+#include <vector>
 
 #include "routing/ROUTER/ROUTER.h"
 #include "shell/base/number_text.h"
@@ -51,6 +53,42 @@ constexpr double rightCaption = 2950;
 constexpr double numberBox = 600;
 constexpr double cornerBox = 400;
 constexpr double depotBox = 1400;
+
+/// A box of the parameters: its name, its caption and its tip.
+struct FieldWords {
+    const char* name;
+    const char* caption;
+    const char* tip;
+};
+
+// In the order of the record's members, behind the label and the corner.
+constexpr std::array<FieldWords, 8> depotFields = {
+    {{"txtDepot", "Depot description", ""},
+     {"txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0."},
+     {"txtDepotX", "Horizontal coordinate", "X coordinate for depot"},
+     {"txtDepotY", "Vertical coordinate", "Y coordinate for depot."},
+     {"txtEarlyStart", "Earliest starting time (min.)",
+      "Earliest time that the vehicle may leave the depot."},
+     {"txtReturnTime", "Latest return time (min.)", "Latest time that a vehicle may reurn to the depot"},
+     {"txtDefaultSpeed", "Default vehicle speed (dist. per hour)",
+      "Default speed of the vehicles if more specific speeds are not specified."},
+     {"txtOtime", "After how many hours will overtime begin",
+      "Time into a route after which overtime rates may apply."}}};
+constexpr std::array<FieldWords, 5> routeFields = {
+    {{"txtPercntPickup", "Percent of vehicle in use before allowing pickups",
+      "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point on "
+      "route "
+      "regardless of remaining load on vehicle.  "},
+     {"txtXScaleFactor", "Horizontal scaling factor",
+      "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor."},
+     {"txtYScaleFactor", "Vertical scaling factor",
+      "Multipler to convert Y coordinates to miles or kilometers.  May include a circuity factor."},
+     {"txtMaxTime", "Maximum TIME allowed on a route (hours)", "Controls length of a route."},
+     {"txtMaxDist", "Maximum DISTANCE allowed on a route (dist.)", "Controls length of a route."}}};
+constexpr std::array<FieldWords, 3> loadTimeFields = {
+    {{"txtFixedTime", "Fixed time per stop", "Fixed coefficient of load time formula."},
+     {"txtVarTimeperLb", "Variable time per stop:  By weight", "Variable coefficient of load time formula."},
+     {"txtVarTimePerCube", "By cube", "Variable coefficient of load time formula."}}};
 
 // Columns of a specified distance or speed.
 constexpr int fromColumn = 1;
@@ -111,63 +149,26 @@ void ROUTER::addParameters() {
 
 void ROUTER::addGeneralFields() {
     FieldColumn title = onParameters(pageLeft, pageTop, 1200, 7800);
-    FieldColumn left = onParameters(pageLeft, pageTop + fieldStep, leftCaption, numberBox);
-    FieldColumn right = onParameters(rightLeft, left.top, rightCaption, depotBox);
-    const auto heading = [this](FieldColumn& column, const std::string& name, const std::string& text) {
-        addHeading(name, text, column.left, column.top + 60, parametersPage);
+    FieldColumn corner =
+        onParameters(pageLeft, pageTop + fieldStep, leftCaption + numberBox - cornerBox, cornerBox);
+    std::vector<TextBox*> boxes = {
+        &addField(title, "txtLabel", "Problem label"),
+        &addField(corner, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)")};
+    FieldColumn left = onParameters(pageLeft, corner.top, leftCaption, numberBox);
+    FieldColumn right = onParameters(rightLeft, pageTop + fieldStep, rightCaption, depotBox);
+    const auto addBlock = [&](FieldColumn& column, const std::string& name, const std::string& heading,
+                              std::span<const FieldWords> fields) {
+        addHeading(name, heading, column.left, column.top + 60, parametersPage);
         column.top += column.step;
+        for (const FieldWords& words : fields) {
+            boxes.push_back(&addField(column, words.name, words.caption));
+            boxes.back()->tip = words.tip;
+        }
     };
-    const auto field = [this](FieldColumn& column, const char* name, const char* text, const char* tip) {
-        TextBox& box = addField(column, name, text);
-        box.tip = tip;
-        return &box;
-    };
-    TextBox* txtLabel = &addField(title, "txtLabel", "Problem label");
-    FieldColumn corner = onParameters(pageLeft, left.top, leftCaption + numberBox - cornerBox, cornerBox);
-    TextBox* txtCorner =
-        &addField(corner, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)");
-    left.top = corner.top;
-    heading(left, "lblGeneral", "GENERAL DATA");
-    TextBox* txtPercntPickup = field(
-        left, "txtPercntPickup", "Percent of vehicle in use before allowing pickups",
-        "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point "
-        "on route regardless of remaining load on vehicle.  ");
-    TextBox* txtXScaleFactor =
-        field(left, "txtXScaleFactor", "Horizontal scaling factor",
-              "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor.");
-    TextBox* txtYScaleFactor =
-        field(left, "txtYScaleFactor", "Vertical scaling factor",
-              "Multipler to convert Y coordinates to miles or kilometers.  May include a circuity factor.");
-    TextBox* txtMaxTime =
-        field(left, "txtMaxTime", "Maximum TIME allowed on a route (hours)", "Controls length of a route.");
-    TextBox* txtMaxDist = field(left, "txtMaxDist", "Maximum DISTANCE allowed on a route (dist.)",
-                                "Controls length of a route.");
-    heading(left, "lblLoadTime", "LOAD/UNLOAD TIME FORMULA");
-    TextBox* txtFixedTime =
-        field(left, "txtFixedTime", "Fixed time per stop", "Fixed coefficient of load time formula.");
-    TextBox* txtVarTimeperLb = field(left, "txtVarTimeperLb", "Variable time per stop:  By weight",
-                                     "Variable coefficient of load time formula.");
-    TextBox* txtVarTimePerCube =
-        field(left, "txtVarTimePerCube", "By cube", "Variable coefficient of load time formula.");
-    heading(right, "lblDepotData", "DEPOT DATA");
-    txtDepot = &addField(right, "txtDepot", "Depot description");
-    TextBox* txtZone =
-        field(right, "txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0.");
-    TextBox* txtDepotX = field(right, "txtDepotX", "Horizontal coordinate", "X coordinate for depot");
-    TextBox* txtDepotY = field(right, "txtDepotY", "Vertical coordinate", "Y coordinate for depot.");
-    TextBox* txtEarlyStart = field(right, "txtEarlyStart", "Earliest starting time (min.)",
-                                   "Earliest time that the vehicle may leave the depot.");
-    TextBox* txtReturnTime = field(right, "txtReturnTime", "Latest return time (min.)",
-                                   "Latest time that a vehicle may reurn to the depot");
-    TextBox* txtDefaultSpeed =
-        field(right, "txtDefaultSpeed", "Default vehicle speed (dist. per hour)",
-              "Default speed of the vehicles if more specific speeds are not specified.");
-    TextBox* txtOtime = field(right, "txtOtime", "After how many hours will overtime begin",
-                              "Time into a route after which overtime rates may apply.");
-    general_ = {generalFields,
-                {txtLabel, txtCorner, txtDepot, txtZone, txtDepotX, txtDepotY, txtEarlyStart, txtReturnTime,
-                 txtDefaultSpeed, txtOtime, txtPercntPickup, txtXScaleFactor, txtYScaleFactor, txtMaxTime,
-                 txtMaxDist, txtFixedTime, txtVarTimeperLb, txtVarTimePerCube}};
+    addBlock(right, "lblDepotData", "DEPOT DATA", depotFields);
+    addBlock(left, "lblGeneralData", "GENERAL DATA", routeFields);
+    addBlock(left, "lblLoadTime", "LOAD/UNLOAD TIME FORMULA", loadTimeFields);
+    general_ = {generalFields, boxes};
 }
 
 void ROUTER::addBreakFields() {
@@ -281,7 +282,7 @@ void ROUTER::fillDescription(DataGrid& grid, int row, int col) {
 
 /// Empty for a number that no stop has.
 std::string ROUTER::descriptionOf(double stopNumber) const {
-    if (stopNumber == depotNumber) return txtDepot->text();
+    if (stopNumber == depotNumber) return find("txtDepot")->shownText();
     for (int n = 1; n <= stops_.count(); ++n)
         if (n == stopNumber) return stops_.grid().cell(n, 1);
     return "";

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <ranges>
 
 #include "shell/base/arithmetic.h"
 
@@ -88,7 +87,8 @@ void Travel::measure(const Problem& problem) {
 
 /// From the last row to the first, so that of two rows for the same stops the first one counts.
 void Travel::specifyDistances(const Problem& problem) {
-    for (const SpecifiedLeg& row : std::views::reverse(problem.distances.span())) {
+    for (int k = problem.distances.count(); k >= 1; --k) {
+        const SpecifiedLeg& row = problem.distances(k);
         if (row.from < 0 || row.from > last_ || row.to < 0 || row.to > last_) continue;
         for (Leg* leg : {&at(row.from, row.to), &at(row.to, row.from)}) {
             leg->distance = row.value;
@@ -98,7 +98,8 @@ void Travel::specifyDistances(const Problem& problem) {
 }
 
 void Travel::specifySpeeds(const Problem& problem) {
-    for (const SpecifiedLeg& row : std::views::reverse(problem.speeds.span())) {
+    for (int k = problem.speeds.count(); k >= 1; --k) {
+        const SpecifiedLeg& row = problem.speeds(k);
         if (row.from < 0 || row.from > last_ || row.to < 0 || row.to > last_) continue;
         at(row.from, row.to).speed = row.value;
         at(row.to, row.from).speed = row.value;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -36,7 +37,7 @@ struct Font {
     double size = 8;
     bool bold = false;
 
-    bool operator==(const Font&) const = default;
+    auto operator<=>(const Font&) const = default;
 };
 
 /// A block of cells, both corners included.

@@ -19,7 +19,7 @@ struct SurfaceText {
     Font font;
     int colour;
 
-    bool operator==(const SurfaceText&) const = default;
+    auto operator<=>(const SurfaceText&) const = default;
 };
 
 struct SurfaceLine {
@@ -27,7 +27,7 @@ struct SurfaceLine {
     int colour;
     double width = 1;
 
-    bool operator==(const SurfaceLine&) const = default;
+    auto operator<=>(const SurfaceLine&) const = default;
 };
 
 struct SurfaceBox {
@@ -35,7 +35,7 @@ struct SurfaceBox {
     int colour;
     bool filled = false;
 
-    bool operator==(const SurfaceBox&) const = default;
+    auto operator<=>(const SurfaceBox&) const = default;
 };
 
 struct SurfaceCircle {
@@ -43,7 +43,7 @@ struct SurfaceCircle {
     int colour;
     bool filled = false;
 
-    bool operator==(const SurfaceCircle&) const = default;
+    auto operator<=>(const SurfaceCircle&) const = default;
 };
 
 using SurfaceOperation = std::variant<SurfaceText, SurfaceLine, SurfaceBox, SurfaceCircle>;

@@ -1,6 +1,7 @@
 #include "shell/forms/visible_operations.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace vantore {
@@ -18,6 +19,15 @@ bool isWipedBy(const SurfaceOperation& operation, const SurfaceText& wiper) {
     return inPaper == wiper;
 }
 
+std::vector<SurfaceOperation> withoutRepeats(const std::vector<SurfaceOperation>& operations) {
+    std::set<SurfaceOperation> later;
+    std::vector<SurfaceOperation> once;
+    for (auto operation = operations.rbegin(); operation != operations.rend(); ++operation)
+        if (later.insert(*operation).second) once.push_back(*operation);
+    std::ranges::reverse(once);
+    return once;
+}
+
 } // namespace
 
 std::vector<SurfaceOperation> visibleOperations(const std::vector<SurfaceOperation>& operations) {
@@ -28,7 +38,7 @@ std::vector<SurfaceOperation> visibleOperations(const std::vector<SurfaceOperati
         const auto isWiped = [text](const SurfaceOperation& earlier) { return isWipedBy(earlier, *text); };
         if (!wipes || std::erase_if(visible, isWiped) == 0) visible.push_back(operation);
     }
-    return visible;
+    return withoutRepeats(visible);
 }
 
 } // namespace vantore

@@ -23,12 +23,6 @@ pmed::SolverInput inputFrom(const std::filesystem::path& file) {
     }
 }
 
-std::vector<std::string> linesOf(const pmed::Assignment& assignment, int pointCount) {
-    ItemWriter writer;
-    pmed::writeAssignment(assignment, pointCount, writer);
-    return lines(writer.text());
-}
-
 } // namespace
 
 /// PMED.EXE: reads FORRUN in the input/output folder, chooses the sites and writes FOROUT there. The exit
@@ -40,7 +34,8 @@ int main() {
         const std::filesystem::path folder = solverIoFolder();
         removeFile(folder / "FOROUT");
         const pmed::SolverInput input = inputFrom(folder / "FORRUN");
-        writeWhole(folder / "FOROUT", linesOf(pmed::solve(input), input.problem.rowCount));
+        const pmed::Assignment chosen = pmed::solve(input);
+        writeWhole(folder / "FOROUT", lines(pmed::assignmentText(chosen, input.problem.rowCount)));
     } catch (const std::exception& error) {
         std::cerr << "PMED.EXE: " << error.what() << std::endl;
         return EXIT_FAILURE;

@@ -1,8 +1,7 @@
 #include "solvers/WARELO/bound.h"
 
 #include <algorithm>
-#include <limits>
-#include <numeric>
+#include <utility>
 
 namespace vantore::warelo {
 
@@ -10,13 +9,50 @@ namespace {
 
 constexpr double firstLength = 1;
 constexpr double leastLength = 1E-4;
-constexpr int patience = 12; // steps without gain until they are made shorter
+constexpr int patience = 12;   // steps without gain until they are made shorter
+constexpr double memory = .95; // share of the steps before in the means
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+/// The sets of customers, each the one before and a further customer, from the least bracket on.
+class Sets {
+  public:
+    explicit Sets(std::vector<std::pair<double, std::size_t>> brackets) : brackets_(std::move(brackets)) {
+        std::ranges::sort(brackets_);
+    }
+
+    bool end() const { return next_ == brackets_.size(); }
+    double bracket() const { return brackets_[next_].first; }
+    std::size_t customer(std::size_t i) const { return brackets_[i].second; }
+    std::size_t count() const { return next_; }
+    double throughput() const { return throughput_; }
+    double linear() const { return linear_; } ///< the sum of sales x bracket
+
+    void add(double sales) {
+        linear_ += sales * bracket();
+        throughput_ += sales;
+        ++next_;
+    }
+
+  private:
+    std::vector<std::pair<double, std::size_t>> brackets_;
+    std::size_t next_ = 0;
+    double throughput_ = 0;
+    double linear_ = 0;
+};
+
+/// A set that a warehouse may choose: so many customers whole, and an amount of the next.
+struct Choice {
+    double value = infinity;
+    std::size_t whole = 0;
+    double part = 0; ///< cwt.
+    double throughput = 0;
+};
 
 } // namespace
 
 Bound::Bound(const Network& network, const Allocation& allocation)
-    : network_(network), meanCapacity_(network.capacity() / static_cast<double>(network.plants.size())),
-      length_(firstLength) {
+    : network_(&network), meanCapacity_(network.capacity() / static_cast<double>(network.plants.size())),
+      ranges_(network.warehouses.size()), length_(firstLength) {
     const std::vector<double> throughput = throughputOf(network, allocation);
     const Supply supply = cheapestSupply(network, throughput);
     plantPrice_ = supply.capacityPrice;
@@ -29,13 +65,22 @@ Bound::Bound(const Network& network, const Allocation& allocation)
     best_ = present_;
 }
 
+Bound::Bound(const Bound& whole, std::size_t warehouse, Range part) : Bound(whole) {
+    ranges_[warehouse] = part;
+    length_ = firstLength;
+    stepsWithoutGain_ = 0;
+    meanThroughput_.clear();
+    evaluate();
+    best_ = std::max(best_, present_);
+}
+
 bool Bound::step(double cost) {
     if (length_ < leastLength) return false;
     double norm = 0;
-    for (const int times : timesServed_) norm += (1 - times) * (1 - times);
+    for (const double times : timesServed_) norm += (1 - times) * (1 - times);
     std::vector<double> excess(plantOutput_.size());
     for (std::size_t p = 0; p < excess.size(); ++p) {
-        excess[p] = (plantOutput_[p] - network_.plants[p].capacity) / meanCapacity_;
+        excess[p] = (plantOutput_[p] - network_->plants[p].capacity) / meanCapacity_;
         if (excess[p] < 0 && plantPrice_[p] == 0) excess[p] = 0;
         norm += excess[p] * excess[p];
     }
@@ -43,7 +88,7 @@ bool Bound::step(double cost) {
     const double stride = length_ * std::max(cost - present_, 0.0) / norm;
     if (stride == 0) return false;
     for (std::size_t c = 0; c < customerPrice_.size(); ++c)
-        customerPrice_[c] += stride * (1 - timesServed_[c]) / network_.customers[c].sales;
+        customerPrice_[c] += stride * (1 - timesServed_[c]) / network_->customers[c].sales;
     for (std::size_t p = 0; p < excess.size(); ++p)
         plantPrice_[p] = std::max(0.0, plantPrice_[p] + stride * excess[p] / meanCapacity_);
     evaluate();
@@ -63,55 +108,93 @@ void Bound::learn() {
 }
 
 void Bound::evaluate() {
-    timesServed_.assign(network_.customers.size(), 0);
-    plantOutput_.assign(network_.plants.size(), 0);
-    unitCost_.assign(network_.warehouses.size(), 0);
-    throughput_.assign(network_.warehouses.size(), 0);
+    const std::size_t warehouses = network_->warehouses.size();
+    timesServed_.assign(network_->customers.size(), 0);
+    plantOutput_.assign(network_->plants.size(), 0);
+    unitCost_.assign(warehouses, 0);
+    throughput_.assign(warehouses, 0);
     present_ = 0;
     for (std::size_t c = 0; c < customerPrice_.size(); ++c)
-        present_ += network_.customers[c].sales * customerPrice_[c];
+        present_ += network_->customers[c].sales * customerPrice_[c];
     for (std::size_t p = 0; p < plantPrice_.size(); ++p)
-        present_ -= network_.plants[p].capacity * plantPrice_[p];
-    for (std::size_t w = 0; w < network_.warehouses.size(); ++w) present_ += serve(w);
+        present_ -= network_->plants[p].capacity * plantPrice_[p];
+    for (std::size_t w = 0; w < warehouses; ++w) present_ += serve(w);
+
+    const bool first = meanThroughput_.empty();
+    meanThroughput_.resize(warehouses);
+    meanInventoryCost_.resize(warehouses);
+    const double old = first ? 0 : memory;
+    for (std::size_t w = 0; w < warehouses; ++w) {
+        meanThroughput_[w] = old * meanThroughput_[w] + (1 - old) * throughput_[w];
+        meanInventoryCost_[w] =
+            old * meanInventoryCost_[w] + (1 - old) * network_->inventoryCost(w, throughput_[w]);
+    }
 }
 
-/// Lets a warehouse choose its customers, and gives f.
+/// Lets a warehouse choose its plant and its customers, and gives f.
 double Bound::serve(std::size_t w) {
     std::size_t source = 0;
-    const auto price = [&](std::size_t p) { return network_.supplyCostOf(p, w) + plantPrice_[p]; };
+    const auto price = [&](std::size_t p) { return network_->supplyCostOf(p, w) + plantPrice_[p]; };
     for (std::size_t p = 1; p < plantPrice_.size(); ++p)
         if (price(p) < price(source)) source = p;
     unitCost_[w] = price(source);
+    return chooseUpTo(w, source);
+}
 
+double Bound::chooseUpTo(std::size_t w, std::size_t source) {
+    const Range& range = ranges_[w];
     std::vector<std::pair<double, std::size_t>> brackets;
     for (std::size_t c = 0; c < customerPrice_.size(); ++c) {
-        const double bracket = unitCost_[w] + network_.deliveryCostOf(w, c) - customerPrice_[c];
-        if (bracket < 0) brackets.emplace_back(bracket, c);
+        const double bracket = unitCost_[w] + network_->deliveryCostOf(w, c) - customerPrice_[c];
+        if (bracket < 0 || range.least > 0) brackets.emplace_back(bracket, c);
     }
-    std::ranges::sort(brackets);
-    double least = 0, linear = 0, throughput = 0;
-    std::size_t chosen = 0;
-    for (std::size_t i = 0; i < brackets.size(); ++i) {
-        const double sales = network_.customers[brackets[i].second].sales;
-        linear += sales * brackets[i].first;
-        throughput += sales;
-        const double value = linear + network_.inventoryCost(w, throughput);
-        if (value >= least) continue;
-        least = value;
-        chosen = i + 1;
-        throughput_[w] = throughput;
+    Sets sets(std::move(brackets));
+    Choice best;
+    if (range.least == 0) best.value = 0; // nobody
+    const auto consider = [&](double part) {
+        const double throughput = sets.throughput() + part;
+        if (throughput < range.least || throughput == 0) return;
+        const double value =
+            sets.linear() + (part > 0 ? part * sets.bracket() : 0) + network_->inventoryCost(w, throughput);
+        if (value < best.value) best = {value, sets.count(), part, throughput};
+    };
+    while (!sets.end()) {
+        const double sales = network_->customers[sets.customer(sets.count())].sales;
+        const double after = sets.throughput() + sales;
+        if (sets.throughput() < range.least && after > range.least) consider(range.least - sets.throughput());
+        if (after > range.most) {
+            consider(range.most - sets.throughput());
+            break;
+        }
+        sets.add(sales);
+        consider(0);
+        if (!sets.end() && sets.bracket() >= 0 && sets.throughput() >= range.least) break;
     }
-    for (std::size_t i = 0; i < chosen; ++i) ++timesServed_[brackets[i].second];
-    plantOutput_[source] += throughput_[w];
-    return least;
+    for (std::size_t i = 0; i < best.whole; ++i) timesServed_[sets.customer(i)] += 1;
+    if (best.part > 0) {
+        const std::size_t c = sets.customer(best.whole);
+        timesServed_[c] += best.part / network_->customers[c].sales;
+    }
+    throughput_[w] = best.throughput;
+    plantOutput_[source] += best.throughput;
+    return best.value;
 }
 
 std::vector<double> Bound::warehousePrice() const {
-    std::vector<double> price(throughput_.size(), std::numeric_limits<double>::infinity());
+    std::vector<double> price(throughput_.size(), infinity);
     for (std::size_t w = 0; w < price.size(); ++w)
         if (throughput_[w] > 0)
-            price[w] = unitCost_[w] + network_.inventoryCost(w, throughput_[w]) / throughput_[w];
+            price[w] = unitCost_[w] + network_->inventoryCost(w, throughput_[w]) / throughput_[w];
     return price;
+}
+
+Bound::Doubt Bound::greatestDoubt() const {
+    Doubt greatest;
+    for (std::size_t w = 0; w < meanThroughput_.size(); ++w) {
+        const double cost = network_->inventoryCost(w, meanThroughput_[w]) - meanInventoryCost_[w];
+        if (cost > greatest.cost) greatest = {w, meanThroughput_[w], cost};
+    }
+    return greatest;
 }
 
 } // namespace vantore::warelo

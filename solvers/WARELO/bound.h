@@ -1,10 +1,17 @@
 #pragma once
 
+#include <limits>
 #include <vector>
 
 #include "solvers/WARELO/allocation.h"
 
 namespace vantore::warelo {
+
+/// Between which throughputs a warehouse may be, cwt.
+struct Range {
+    double least = 0;
+    double most = std::numeric_limits<double>::infinity();
+};
 
 /// A lower bound on the cost of all allocations of a network, by Lagrangian relaxation.
 ///
@@ -19,9 +26,10 @@ namespace vantore::warelo {
 ///     f(w) = min over S of  sum over c in S of sales(c) x (s(w) + delivery cost(w, c) - v(c))
 ///                           + inventory cost(w, throughput of S),
 ///
-/// 0 for nobody. The sum is linear and the inventory's cost concave, so that the best set holds those
-/// customers whose bracket is below some limit: trying every limit in a sorted list is enough. Whatever the
-/// prices, no allocation costs less than
+/// 0 for nobody. For a given throughput those customers are best whose bracket is least, the last of them
+/// served in part. Between two throughputs at which a customer is served whole the sum is linear and the
+/// inventory's cost concave, so that trying these, and the ends of the warehouse's range, is enough. Whatever
+/// the prices, no allocation with throughputs in their ranges costs less than
 ///
 ///     L = sum over c of sales(c) v(c) - sum over p of capacity(p) u(p) + sum over w of f(w),
 ///
@@ -32,8 +40,11 @@ namespace vantore::warelo {
 /// Crowder, "Validation of subgradient optimization", Mathematical Programming 6 (1974).
 class Bound {
   public:
-    /// Starts from what things cost in an allocation.
+    /// Starts from what things cost in an allocation, for throughputs of every size.
     Bound(const Network& network, const Allocation& allocation);
+
+    /// The same prices once more, for a part of the ranges.
+    Bound(const Bound& whole, std::size_t warehouse, Range part);
 
     /// The highest L so far, $ a year.
     double value() const { return best_; }
@@ -45,20 +56,34 @@ class Bound {
     /// share; infinite in others.
     std::vector<double> warehousePrice() const;
 
+    /// Where the relaxation deceives itself most: a warehouse that by turns serves many and few, and so seems
+    /// to have less inventory than it would have for what it serves on the average.
+    struct Doubt {
+        std::size_t warehouse = 0;
+        double throughput = 0; ///< on the average, cwt.
+        double cost = 0;       ///< that is overlooked, $ a year
+    };
+    Doubt greatestDoubt() const;
+
+    const Range& range(std::size_t warehouse) const { return ranges_[warehouse]; }
+
   private:
     void evaluate();
     double serve(std::size_t warehouse);
+    double chooseUpTo(std::size_t warehouse, std::size_t source);
     void learn();
 
-    const Network& network_;
+    const Network* network_;
     double meanCapacity_;
-    std::vector<double> customerPrice_; ///< v, $/cwt.
-    std::vector<double> plantPrice_;    ///< u, $/cwt.
-    std::vector<double> unitCost_;      ///< s, $/cwt.
-    std::vector<double> throughput_;    ///< of the sets S
-    std::vector<double> plantOutput_;   ///< that they call for
-    std::vector<int> timesServed_;      ///< of each customer
-    double present_ = 0;                ///< L
+    std::vector<Range> ranges_;
+    std::vector<double> customerPrice_;                      ///< v, $/cwt.
+    std::vector<double> plantPrice_;                         ///< u, $/cwt.
+    std::vector<double> unitCost_;                           ///< s, $/cwt.
+    std::vector<double> throughput_;                         ///< of the sets S
+    std::vector<double> plantOutput_;                        ///< that they call for
+    std::vector<double> timesServed_;                        ///< each customer, with shares
+    std::vector<double> meanThroughput_, meanInventoryCost_; ///< over the last steps
+    double present_ = 0;                                     ///< L
     double best_ = 0;
     double length_; ///< of the steps, of the distance to the cost
     int stepsWithoutGain_ = 0;

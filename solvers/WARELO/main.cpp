@@ -8,6 +8,7 @@
 #include "solvers/WARELO/evaluate.h"
 #include "solvers/io_folder.h"
 #include "solvers/watch/watch.h"
+#include "solvers/whole_file.h"
 
 namespace {
 

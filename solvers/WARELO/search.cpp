@@ -15,7 +15,13 @@ namespace {
 constexpr int firstPasses = 6;
 constexpr int mostSteps = 600;
 constexpr int stepsPerStart = 20;
+constexpr int stepsPerHalf = 80;
 constexpr double goodEnough = 1E-7; // of the cost
+constexpr double wellEnough = 5E-5; // of the cost: not worth halving ranges for
+
+/// Brackets that may be looked at while ranges are halved: customers x warehouses x steps. The search then
+/// takes less than a second.
+constexpr double mostWork = 6E+7;
 
 /// The best of both so far, told whenever it gets better.
 class Progress {
@@ -68,6 +74,55 @@ bool servesSomebody(const std::vector<double>& warehousePrice) {
                                [](double price) { return price < std::numeric_limits<double>::infinity(); });
 }
 
+/// Leads the prices of a bound to an allocation.
+void startFrom(const Bound& bound, const Network& network, std::set<Allocation>& starts, Progress& progress) {
+    const std::vector<double> price = bound.warehousePrice();
+    if (!servesSomebody(price)) return;
+    const Allocation start = cheapestAllocation(network, price);
+    if (starts.insert(start).second) progress.take(improved(network, start));
+}
+
+/// Ranges of throughputs that together hold every allocation, each with its bound.
+class Halving {
+  public:
+    Halving(const Network& network, Progress& progress, std::set<Allocation>& starts)
+        : network_(network), progress_(progress), starts_(starts),
+          workOfStep_(static_cast<double>(network.customers.size() * network.warehouses.size())) {}
+
+    void run(const Bound& whole) {
+        std::vector<Bound> open = {whole};
+        while (!open.empty() && work_ < mostWork && progress_.found().gap() > wellEnough) {
+            const auto lowest = std::ranges::min_element(open, {}, &Bound::value);
+            const Bound bound = *lowest;
+            open.erase(lowest);
+            const Bound::Doubt doubt = bound.greatestDoubt();
+            if (doubt.cost <= 0) return;
+            Range below = bound.range(doubt.warehouse);
+            Range above = below;
+            below.most = above.least = doubt.throughput;
+            open.push_back(raised(Bound(bound, doubt.warehouse, below)));
+            open.push_back(raised(Bound(bound, doubt.warehouse, above)));
+            progress_.take(std::ranges::min_element(open, {}, &Bound::value)->value());
+        }
+    }
+
+  private:
+    Bound raised(Bound bound) {
+        for (int step = 0; step < stepsPerHalf && bound.value() < progress_.found().cost; ++step) {
+            work_ += workOfStep_;
+            if (!bound.step(progress_.found().cost)) break;
+        }
+        startFrom(bound, network_, starts_, progress_);
+        return bound;
+    }
+
+    const Network& network_;
+    Progress& progress_;
+    std::set<Allocation>& starts_;
+    double workOfStep_;
+    double work_ = 0;
+};
+
 } // namespace
 
 void search(const Network& network, const Hear& hear) {
@@ -81,12 +136,10 @@ void search(const Network& network, const Hear& hear) {
         if (step % stepsPerStart != 0) continue;
         progress.take(bound.value());
         if (progress.found().gap() <= goodEnough) return;
-        const std::vector<double> price = bound.warehousePrice();
-        if (!servesSomebody(price)) continue;
-        const Allocation start = cheapestAllocation(network, price);
-        if (starts.insert(start).second) progress.take(improved(network, start));
+        startFrom(bound, network, starts, progress);
     }
     progress.take(bound.value());
+    Halving(network, progress, starts).run(bound);
 }
 
 } // namespace vantore::warelo

@@ -27,6 +27,7 @@ struct ModuleTour {
     std::vector<const char*> files; ///< samples; the first is the problem that is shown
     const char* open;               ///< the button that opens it; none where there are no files
     std::vector<View> views;
+    const char* solver = nullptr; ///< the program that Solve runs, if any
 };
 
 const std::vector<ModuleTour>& tours() {
@@ -41,10 +42,52 @@ const std::vector<ModuleTour>& tours() {
          "cmdOpen",
          {{"report", "press cmdSolve"}, {"plot", "answer 2\npress cmdPlot"}}},
         {"INPOL", {"INV01.dat"}, "cmdOpen", {{"report", "press cmdSolve"}}},
+        {"LAYOUT", {"LOUT01.dat"}, "cmdOpen", {{"report", "press cmdSolve"}}},
         {"LNPROG", {"FLP01.dat"}, "cmdOpen", {{"report", "press cmdSolve"}}},
-        {"MIPROG", {"ILP01.dat"}, "cmdOpen", {}},
+        {"MILES",
+         {},
+         nullptr,
+         {{"degrees", "press optLatLng"},
+          {"result", "type txtOrgLat 40.44\ntype txtOrgLong 80\ntype txtDestLat 41.88\n"
+                     "type txtDestLong 87.63\npress cmdCalc"}}},
+        {"MIPROG", {"ILP01.dat"}, "cmdOpen", {{"report", "answer Yes\npress cmdSolve"}}, "MIP.EXE"},
         {"MULREG", {"REG01.dat"}, "cmdOpen", {{"report", "press cmdSolve"}}},
-        {"TRANLP", {"TRAN01.dat"}, "cmdOpen", {{"result", "press cmdSolve"}, {"report", "press cmdReport"}}},
+        {"MULTICOG",
+         {"MCOG02.dat"},
+         "cmdOpen",
+         {{"report", "answer 4\nanswer 1\npress cmdSolve"}, {"plot", "answer Yes\npress cmdPlot"}}},
+        {"PMED",
+         {"PMED02.dat"},
+         "cmdOpen",
+         {{"report", "type txtNoLoc 4\npress cmdSolve"}, {"plot", "answer Yes\npress cmdPlot"}},
+         "PMED.EXE"},
+        {"ROUTE",
+         {"RFL03.dat"},
+         "cmdOpenFile",
+         {{"report", "press cmdSolve"},
+          {"plot", "press cmdContinue\npress cmdPlot"},
+          {"path", "answer 1\npress cmdPath"},
+          {"zoom", "answer +\npress cmdZoom"}}},
+        {"ROUTER",
+         {"RTR03.dat"},
+         "cmdOpen",
+         {{"page0", "press cmdData\ntab 0"},
+          {"page1", "tab 1"},
+          {"page2", "tab 2"},
+          {"page3", "tab 3"},
+          {"page4", "tab 4"},
+          {"page5", "tab 5"},
+          {"page6", "tab 6"},
+          {"page7", "tab 7"},
+          {"page8", "tab 8"},
+          {"plot", "answer 1\npress cmdContinueSpeeds\npress cmdSolve"},
+          {"report", "press cmdContinuePlot\nanswer Plan A\npress cmdReport"}},
+         "OPTMZR.EXE"},
+        {"ROUTESEQ",
+         {"RSEQ01.dat"},
+         "cmdOpen",
+         {{"report", "answer 1\npress cmdSolve"},
+          {"plot", "press cmdContinue\nanswer Yes\nanswer Yes\npress cmdPlot"}}},
         {"SCSIM",
          {"SIM03.dat"},
          "OpenF",
@@ -60,24 +103,16 @@ const std::vector<ModuleTour>& tours() {
           {"reports", "press Report"},
           {"report", "answer 1\nanswer 4\npress cmdReport"},
           {"plot", "press cmdReturn\nanswer 3\nanswer 1\nanswer 4\npress cmdPlot"}}},
-        {"MILES",
-         {},
-         nullptr,
-         {{"degrees", "press optLatLng"},
-          {"result", "type txtOrgLat 40.44\ntype txtOrgLong 80\ntype txtDestLat 41.88\n"
-                     "type txtDestLong 87.63\npress cmdCalc"}}},
-        {"ROUTE",
-         {"RFL03.dat"},
-         "cmdOpenFile",
-         {{"report", "press cmdSolve"},
-          {"plot", "press cmdContinue\npress cmdPlot"},
-          {"path", "answer 1\npress cmdPath"},
-          {"zoom", "answer +\npress cmdZoom"}}},
-        {"ROUTESEQ",
-         {"RSEQ01.dat"},
+        {"TRANLP", {"TRAN01.dat"}, "cmdOpen", {{"result", "press cmdSolve"}, {"report", "press cmdReport"}}},
+        {"WARELOCA",
+         {"LTH01.dat"},
          "cmdOpen",
-         {{"report", "answer 1\npress cmdSolve"},
-          {"plot", "press cmdContinue\nanswer Yes\nanswer Yes\npress cmdPlot"}}}};
+         {{"plants", "tab 0"},
+          {"warehouses", "tab 1"},
+          {"customers", "tab 2"},
+          {"report", "press cmdSolve"},
+          {"plot", "press cmdPlot"}},
+         "WARELO.EXE"}};
     return all;
 }
 
@@ -154,6 +189,9 @@ TEST_P(ModuleWindows, AreWholeAndNamedAtEverySize) {
         ModuleSession session(screen.width, screen.height);
         for (const char* file : GetParam().files)
             session.writeFile(file, readTextFile(fs::path(VANTORE_SOURCE_FOLDER) / "install" / file));
+        if (GetParam().solver != nullptr)
+            for (const char* file : {GetParam().solver, "MAP.DAT", "FIL.DAT", "OLDSOL.DAT"})
+                fs::copy(fs::path(VANTORE_PROGRAM_FOLDER) / file, session.installFolder());
         session.play("module " + std::string(GetParam().module));
         show("start", screen, *session.front());
         if (GetParam().open != nullptr) {

@@ -54,6 +54,9 @@ void pressAll(Suite& suite, RestlessUser& user) {
         Form* module = suite.windows.front();
         if (module == nullptr) return;
         Control* control = module->find(name);
+        // What no file holds and a module must know before it solves: how many facilities to locate.
+        if (auto* facilities = dynamic_cast<TextBox*>(module->find("txtNoLoc")))
+            module->type(*facilities, "2");
         try {
             user.forget();
             if (control != nullptr) module->press(*control);

@@ -17,9 +17,7 @@ using namespace vantore;
 void solveAndReport(const std::string& text) {
     ItemReader input(text);
     const pmed::SolverInput problem = pmed::readInput(input);
-    ItemWriter output;
-    pmed::writeAssignment(pmed::solve(problem), problem.problem.rowCount, output);
-    ItemReader result(output.text());
+    ItemReader result(pmed::assignmentText(pmed::solve(problem), problem.problem.rowCount));
     const pmed::Assignment assignment = pmed::readAssignment(result, problem.problem.rowCount);
     if (!std::isfinite(assignment.totalCost)) std::abort();
     if (pmed::reportOn(problem.problem, assignment).lines().size() < 7) std::abort();

@@ -66,5 +66,20 @@ TEST(VisibleOperations, KeepTheirOrder) {
     EXPECT_EQ(visible[2], picOut.operations()[4]);
 }
 
+TEST(VisibleOperations, DrawARepeatedOneWhereItWasLast) {
+    Surface picOut;
+    picOut.line(0, 0, 8, 8, colour::lightRed);
+    printAt(picOut, 8, 8, "Ashby", colour::black);
+    picOut.line(0, 8, 8, 8, colour::lightRed);
+    printAt(picOut, 8, 8, "Ashby", colour::black);
+    picOut.line(0, 0, 8, 8, colour::lightRed, 2);
+    const auto visible = visibleOperations(picOut.operations());
+    ASSERT_EQ(visible.size(), 4U);
+    EXPECT_EQ(visible[0], picOut.operations()[0]);
+    EXPECT_EQ(visible[1], picOut.operations()[2]);
+    EXPECT_EQ(visible[2], picOut.operations()[3]);
+    EXPECT_EQ(visible[3], picOut.operations()[4]);
+}
+
 } // namespace
 } // namespace vantore::tests

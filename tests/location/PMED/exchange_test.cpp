@@ -45,20 +45,16 @@ TEST(PmedExchange, GivesTheSolverTheProblemAndItsCounts) {
     EXPECT_EQ(input.problem.coordinates, Coordinates::Degrees);
     EXPECT_EQ(input.problem.sites(3).label, "Ely");
     EXPECT_EQ(input.problem.sites(1).fixedCost, 40000);
-    ItemWriter writer;
-    writeInput(input, writer);
-    EXPECT_EQ(writer.text(), file);
+    EXPECT_EQ(inputText(input), file);
+    EXPECT_EQ(pointsText(input.problem) + "2,2\r\n", file);
 }
 
 TEST(PmedExchange, ReadsBackEveryProblemThatItWrites) {
     std::mt19937 random(3);
     for (int i = 0; i < 200; ++i) {
-        ItemWriter writer;
-        writeInput(tests::randomInput(random, static_cast<tests::Units>(i % tests::unitKinds), 65, 15),
-                   writer);
-        ItemWriter again;
-        writeInput(inputFrom(writer.text()), again);
-        ASSERT_EQ(again.text(), writer.text());
+        const std::string text =
+            inputText(tests::randomInput(random, static_cast<tests::Units>(i % tests::unitKinds), 65, 15));
+        ASSERT_EQ(inputText(inputFrom(text)), text);
     }
 }
 
@@ -103,9 +99,7 @@ TEST(PmedExchange, ReadsPairsInAnyOrder) {
     EXPECT_EQ(assignment.servedBy(2), 3);
     EXPECT_EQ(assignment.servedBy(3), 1);
     EXPECT_EQ(assignment.totalCost, 1234.5);
-    ItemWriter writer;
-    writeAssignment(assignment, 3, writer);
-    EXPECT_EQ(writer.text(), "3\r\n1,1\r\n2,3\r\n3,1\r\n1234.5\r\n");
+    EXPECT_EQ(assignmentText(assignment, 3), "3\r\n1,1\r\n2,3\r\n3,1\r\n1234.5\r\n");
 }
 
 TEST(PmedExchange, RefusesAnAssignmentOfAnotherProblem) {

@@ -237,8 +237,9 @@ TEST_F(PmedWindow, DrawsDegreesOverTheMap) {
     openDegrees();
     solve("1");
     session.play("answer No\npress cmdPlot");
-    // The border's ends: 300 of 6050 hundredths from the west on 484 units behind 150, 470 of 3240 on 327.
-    EXPECT_TRUE(drawn("line 174 91 398 91 colour 8"));
+    // The border's ends: 300 and 3100 of 6050 hundredths from the west on 448 units behind 186, 470 of 3240
+    // on 302.
+    EXPECT_TRUE(drawn("line 208 100 416 100 colour 8"));
     EXPECT_FALSE(drawn("text 400 416 \"X coordinates in 1s\" Arial 7 bold colour 0"));
     EXPECT_NE(session.play("surface").find("circle "), std::string::npos);
 }

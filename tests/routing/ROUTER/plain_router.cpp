@@ -1,6 +1,7 @@
 #include "tests/routing/ROUTER/plain_router.h"
 
 #include <cmath>
+#include <string_view>
 
 #include "shell/base/number_text.h"
 
@@ -75,13 +76,13 @@ struct TimeOfDay {
 
     std::string text(const char* hourMask) const {
         return format(hour, hourMask) + ":" +
-               (minute < 10 ? "0" + format(minute, "0") : format(minute, "#0")) + half;
+               (minute < 10 ? "0" + format(minute, "0") : format(minute, "#0")) + std::string(half);
     }
 
     double day = 1;
     double hour = 0;
     double minute = 0;
-    std::string half;
+    std::string_view half;
 };
 
 // Distances

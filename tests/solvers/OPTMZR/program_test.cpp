@@ -38,7 +38,7 @@ std::string contents(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string fileOf(const Problem& problem) {
+std::string inputOf(const Problem& problem) {
     ItemWriter writer;
     router::write(problem, writer);
     return writer.text();
@@ -80,7 +80,7 @@ class OptmzrProgram : public testing::Test {
 
 TEST_F(OptmzrProgram, WritesThePlanThatTheSearchFinds) {
     const Problem problem = RandomProblems(3).next(7);
-    write(fileOf(problem));
+    write(inputOf(problem));
     EXPECT_EQ(solve(), 0);
     EXPECT_EQ(complained_, "");
     EXPECT_EQ(contents(folder_.path() / "ROUTE.DAT"), textOf(found(problem).plan));
@@ -89,7 +89,7 @@ TEST_F(OptmzrProgram, WritesThePlanThatTheSearchFinds) {
 
 TEST_F(OptmzrProgram, FindsFilesInAnySpellingAndReplacesThePlanBefore) {
     const Problem problem = RandomProblems(4).next(3);
-    write(fileOf(problem), "temp.dat");
+    write(inputOf(problem), "temp.dat");
     write("COMPUTED\r\n1,1,10,1,100,0\r\n9\r\n", "Route.Dat");
     EXPECT_EQ(solve(), 0);
     EXPECT_FALSE(fs::exists(folder_.path() / "Route.Dat"));
@@ -99,7 +99,7 @@ TEST_F(OptmzrProgram, FindsFilesInAnySpellingAndReplacesThePlanBefore) {
 TEST_F(OptmzrProgram, WritesAnEmptyPlanWithoutStops) {
     Problem problem = RandomProblems(5).next(3);
     problem.stops = {};
-    write(fileOf(problem));
+    write(inputOf(problem));
     EXPECT_EQ(solve(), 0);
     EXPECT_EQ(contents(folder_.path() / "ROUTE.DAT"), "COMPUTED\r\n");
 }
@@ -108,24 +108,24 @@ TEST_F(OptmzrProgram, SaysWhyThereIsNoPlan) {
     EXPECT_EQ(solve(), 1);
     EXPECT_EQ(complained_, "OPTMZR.EXE: File not found\n");
     Problem problem = RandomProblems(6).next(3);
-    const std::string text = fileOf(problem);
+    const std::string text = inputOf(problem);
     write(text.substr(0, text.size() / 2));
     EXPECT_EQ(solve(), 1);
     EXPECT_EQ(complained_, "OPTMZR.EXE: TEMP.DAT can't be read as a problem. Input past end of file.\n");
     problem.vehicles = {};
-    write(fileOf(problem));
+    write(inputOf(problem));
     EXPECT_EQ(solve(), 1);
     EXPECT_EQ(complained_, "OPTMZR.EXE: There is no vehicle for the routes.\n");
     problem = RandomProblems(6).next(3);
     problem.defaultSpeed = 0;
-    write(fileOf(problem));
+    write(inputOf(problem));
     EXPECT_EQ(solve(), 1);
     EXPECT_TRUE(complained_.ends_with("OPTMZR.EXE: Division by zero\n")) << complained_;
     EXPECT_FALSE(hasPlan());
 }
 
 TEST_F(OptmzrProgram, EndsWithAPlanOrAReasonWhateverItReads) {
-    for (const std::string& text : damagedForms(fileOf(RandomProblems(8).next(3)))) {
+    for (const std::string& text : damagedForms(textOf(RandomProblems(8).next(3)))) {
         write(text);
         const int status = solve();
         ASSERT_TRUE(status == 0 || status == 1) << text;
@@ -135,14 +135,14 @@ TEST_F(OptmzrProgram, EndsWithAPlanOrAReasonWhateverItReads) {
 }
 
 TEST_F(OptmzrProgram, FailsWhereItCannotWrite) {
-    write(fileOf(RandomProblems(9).next(3)));
+    write(textOf(RandomProblems(9).next(3)));
     fs::create_directory(folder_.path() / "ROUTE.DAT");
     EXPECT_EQ(solve(), 1);
     EXPECT_EQ(complained_, "OPTMZR.EXE: Path/File access error\n");
 }
 
 TEST_F(OptmzrProgram, LeavesNoHalfPlanOnAFullDisk) {
-    write(fileOf(RandomProblems(10).next(5)));
+    write(textOf(RandomProblems(10).next(5)));
     EXPECT_EQ(solve("ulimit -f 0; trap '' XFSZ; "), 1);
     EXPECT_FALSE(hasPlan());
 }
@@ -151,7 +151,7 @@ TEST_F(OptmzrProgram, LeavesNoHalfPlanOnAFullDisk) {
 class BusyOptmzr : public OptmzrProgram {
   protected:
     void SetUp() override {
-        write(fileOf(problem_));
+        write(textOf(problem_));
         running_ = startProcess(program, folder_.path(), {{"VANTORE_IO", folder_.path().string() + "/"}});
         ASSERT_TRUE(running_);
         ASSERT_TRUE(soon([this] { return !readProgress(folder_.path()).empty(); }));
