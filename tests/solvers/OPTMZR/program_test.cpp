@@ -125,7 +125,7 @@ TEST_F(OptmzrProgram, SaysWhyThereIsNoPlan) {
 }
 
 TEST_F(OptmzrProgram, EndsWithAPlanOrAReasonWhateverItReads) {
-    for (const std::string& text : damagedForms(textOf(RandomProblems(8).next(3)))) {
+    for (const std::string& text : damagedForms(inputOf(RandomProblems(8).next(3)))) {
         write(text);
         const int status = solve();
         ASSERT_TRUE(status == 0 || status == 1) << text;
@@ -135,14 +135,14 @@ TEST_F(OptmzrProgram, EndsWithAPlanOrAReasonWhateverItReads) {
 }
 
 TEST_F(OptmzrProgram, FailsWhereItCannotWrite) {
-    write(textOf(RandomProblems(9).next(3)));
+    write(inputOf(RandomProblems(9).next(3)));
     fs::create_directory(folder_.path() / "ROUTE.DAT");
     EXPECT_EQ(solve(), 1);
     EXPECT_EQ(complained_, "OPTMZR.EXE: Path/File access error\n");
 }
 
 TEST_F(OptmzrProgram, LeavesNoHalfPlanOnAFullDisk) {
-    write(textOf(RandomProblems(10).next(5)));
+    write(inputOf(RandomProblems(10).next(5)));
     EXPECT_EQ(solve("ulimit -f 0; trap '' XFSZ; "), 1);
     EXPECT_FALSE(hasPlan());
 }
@@ -151,7 +151,7 @@ TEST_F(OptmzrProgram, LeavesNoHalfPlanOnAFullDisk) {
 class BusyOptmzr : public OptmzrProgram {
   protected:
     void SetUp() override {
-        write(textOf(problem_));
+        write(inputOf(problem_));
         running_ = startProcess(program, folder_.path(), {{"VANTORE_IO", folder_.path().string() + "/"}});
         ASSERT_TRUE(running_);
         ASSERT_TRUE(soon([this] { return !readProgress(folder_.path()).empty(); }));
