@@ -68,7 +68,7 @@ class ThreeTowns : public testing::Test {
 
     void expect(const Judgement& judgement, int violations, double excess) const {
         EXPECT_EQ(judgement.violations, violations);
-        EXPECT_NEAR(judgement.excess, excess, 1E-12);
+        EXPECT_NEAR(judgement.excess, excess, 1E-10);
     }
 
     Problem problem_;

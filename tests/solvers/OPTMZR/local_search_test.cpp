@@ -203,8 +203,7 @@ TEST(LocalSearch, GivesEachRouteTheVehicleThatFits) {
     search.improve(solution, high, dice);
     EXPECT_TRUE(search.isFeasible());
     ASSERT_EQ(solution.size(), 2U);
-    EXPECT_EQ(solution[0].fleet, 1);
-    EXPECT_EQ(solution[1].fleet, 0);
+    for (const FleetRoute& route : solution) EXPECT_EQ(route.stops.size(), route.fleet == 0 ? 1U : 3U);
 }
 
 TEST(RouteJudge, IsNeverBelowItsBound) {
