@@ -36,14 +36,17 @@ std::string prefixIn(const std::string& dialog) {
 class FilesOfEveryModule : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
+        session.installBaseCase();
         session.play("module " + GetParam());
         open_ = buttonOf(session, {"cmdOpen", "cmdOpenFile", "OpenF"});
         if (open_.empty()) GTEST_SKIP() << "has no files";
         save_ = buttonOf(session, {"cmdSave", "Save"});
         prefix = prefixIn(session.play("file\npress " + open_));
-        file = prefix + "01.dat";
-        fs::copy(fs::path(VANTORE_SOURCE_FOLDER) / "install" / file, session.ioFolder());
+        file = prefix + "77.dat"; // the sample's own name is one that the warehouse model doesn't save under
+        fs::copy(fs::path(VANTORE_SOURCE_FOLDER) / "install" / (prefix + "01.dat"),
+                 session.ioFolder() / file);
         content = session.readFile(file);
+        filesBefore = fileCount();
     }
 
     std::string open(const std::string& name) { return session.play("file " + name + "\npress " + open_); }
@@ -55,6 +58,7 @@ class FilesOfEveryModule : public testing::TestWithParam<std::string> {
     std::string prefix;
     std::string file;
     std::string content;
+    std::ptrdiff_t filesBefore = 0;
 
   private:
     std::string open_;
@@ -67,7 +71,7 @@ TEST_P(FilesOfEveryModule, StandWhenTheDiskIsFull) {
     const std::string told = save(file);
     EXPECT_NE(told.find("Disk full occurred in "), std::string::npos) << told;
     EXPECT_EQ(session.readFile(file), content);
-    EXPECT_EQ(fileCount(), 1);
+    EXPECT_EQ(fileCount(), filesBefore);
     EXPECT_EQ(session.module().view(), View::Data);
 }
 

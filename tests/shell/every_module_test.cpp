@@ -37,6 +37,7 @@ std::string together(const std::vector<std::string>& faults) {
 TEST_P(EveryModule, HasAWindowWithoutFaultsBeforeAFileIsOpen) {
     for (const Screen screen : screens) {
         ModuleSession session(screen.width, screen.height);
+        session.installBaseCase();
         session.play("module " + GetParam());
         EXPECT_EQ(together(formFaults(session.module())), "") << screen.width << "x" << screen.height;
     }
@@ -45,6 +46,7 @@ TEST_P(EveryModule, HasAWindowWithoutFaultsBeforeAFileIsOpen) {
 TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
     for (const Screen screen : screens) {
         ModuleSession session(screen.width, screen.height);
+        session.installBaseCase();
         session.play("module " + GetParam());
         const std::string open = openButton(session.module());
         if (open.empty()) GTEST_SKIP() << "makes no new problems";
@@ -56,6 +58,7 @@ TEST_P(EveryModule, HasAWindowWithoutFaultsOnANewProblem) {
 
 TEST_P(EveryModule, AsksNothingWhenItIsLeftBeforeAFileIsOpen) {
     ModuleSession session;
+    session.installBaseCase();
     EXPECT_EQ(session.play("module " + GetParam() + "\nclose"), "");
     EXPECT_TRUE(session.closed());
     EXPECT_TRUE(session.launcher().enabled);
@@ -65,6 +68,7 @@ TEST_P(EveryModule, SurvivesAFileThatHoldsAnythingAtAll) {
     for (const std::string& content :
          damagedForms("\"Label\",1,2,3\r\n2\r\n\"A\",1,2,3,4\r\n\"B\",1,2,3,4\r\n")) {
         ModuleSession session;
+        session.installBaseCase();
         session.writeFile("BAD.dat", content);
         session.play("module " + GetParam());
         const std::string open = openButton(session.module());

@@ -48,6 +48,12 @@ void ModuleSession::writeFile(std::string_view name, std::string_view content) {
     if (!file) throw std::runtime_error("can't write a test file");
 }
 
+void ModuleSession::installBaseCase() {
+    for (const char* name : {"FIL.DAT", "OLDSOL.DAT", "MAP.DAT"})
+        std::filesystem::copy(std::filesystem::path(VANTORE_SOURCE_FOLDER) / "install" / name,
+                              installFolder());
+}
+
 std::string ModuleSession::readFile(std::string_view name) const {
     std::ifstream file(existingSpelling(ioFolder() / pathOf(name)), std::ios::binary);
     if (!file) throw std::runtime_error("no file " + std::string(name));

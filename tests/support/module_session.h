@@ -34,6 +34,10 @@ class ModuleSession {
     std::vector<std::string> report();
 
     void writeFile(std::string_view name, std::string_view content);
+
+    /// Puts the files of the install folder that modules need before a problem is open where they look for
+    /// them: the base case of the warehouse model and the map.
+    void installBaseCase();
     std::string readFile(std::string_view name) const;
     bool fileExists(std::string_view name) const;
 
