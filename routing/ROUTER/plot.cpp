@@ -20,7 +20,10 @@ constexpr double stopRadius = 3;
 constexpr double numberRight = 5; // from a point's centre to its number
 constexpr double numberUp = 10;
 
+constexpr double warningMargin = 2;
+
 constexpr double numberSize = 8; // points
+constexpr double warningSize = 10;
 
 GridCorner cornerFor(const std::string& text) {
     const std::string corner = upperCase(text);
@@ -75,6 +78,12 @@ class Pen {
         surface_.print(text, colour::black);
     }
 
+    void warn(const std::string& text) {
+        surface_.font = {"Arial", warningSize * scale_.x, true};
+        surface_.moveTo(warningMargin * scale_.x, warningMargin * scale_.y);
+        surface_.print(text, colour::lightRed);
+    }
+
   private:
     SurfacePoint at(MapPoint point) const {
         const SurfacePoint place = place_(point);
@@ -120,6 +129,7 @@ void PlanMap::draw(PictureSurface& surface, Scale scale, routing::Vantage vantag
     for (const Points& route : routes_)
         if (route.size() > 1) pen.closedLine(route);
     for (const Points& barrier : barriers_) pen.closedLine(barrier);
+    if (layers.warning) pen.warn(pointInBarrierWarning);
     if (!layers.numbers) return;
     pen.text(stops_.front(), "Depot");
     for (std::size_t n = 1; n < stops_.size(); ++n)
