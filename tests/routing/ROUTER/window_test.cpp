@@ -476,7 +476,7 @@ TEST_F(RouterWindow, PlotsThePointsAloneWithoutRoutes) {
 
 TEST_F(RouterWindow, ShowsAndHidesNumbersAndZones) {
     session.play("press cmdPlot\npress cmdStopId\npress cmdZonesPlot");
-    EXPECT_TRUE(drawn("text 41 424 \"Depot\" Arial 8 colour 0"));
+    EXPECT_TRUE(drawn("text 44 424 \"Depot\" Arial 8 colour 0"));
     EXPECT_TRUE(drawn("text 609 424 \"1\" Arial 8 colour 0"));
     EXPECT_TRUE(drawn("box 126 254 306 389 colour 15 filled"));
     EXPECT_TRUE(drawn("box 126 254 306 389 colour 9"));
