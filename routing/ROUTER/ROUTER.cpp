@@ -40,8 +40,8 @@ constexpr const char* solverProgram = "OPTMZR.EXE";
 
 // Twips of the design.
 constexpr Rect startPlace{1200, 1000, 7200, 5200};
-constexpr Rect surfacePlace{0, 0, 9600, 6420};
-constexpr Rect warningPlace{120, 6150, 9255, 270};
+constexpr Rect surfacePlace{0, 0, 9600, 6780};
+constexpr Rect warningPlace{120, 6480, 9255, 280};
 
 void beep(Suite& suite, int times) {
     for (int i = 0; i < times; ++i) suite.platform.display.beep();
@@ -68,7 +68,7 @@ void ROUTER::addButtons() {
     addDataButtons({.arithmetic = "", .rows = false, .excelPlace = buttonPlace(1, 2)});
     addButton("cmdData", "&Data", buttonPlace(1, 0), {View::Data}, [this] { showEditor(); }).tip =
         "Data editor";
-    cmdReport = &addButton("cmdReport", "Rep&ort", buttonPlace(1, 1), {View::Data}, [this] { showReport(); });
+    cmdReport = &addButton("cmdReport", "Re&port", buttonPlace(1, 1), {View::Data}, [this] { showReport(); });
     cmdReport->usable = [this] { return solveStarted_; };
     cmdReport->tip = "Needs the routes of a solution: press Solve.";
     auto& plotButton = addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); });
@@ -102,8 +102,7 @@ void ROUTER::addPlot() {
     }).tip = "Show or hide the speed zones";
     addButton("cmdClrRoute", "Clear ro&utes", buttonPlace(1, 5), inPlot, [this] { clearRoutes(); }).tip =
         "Delete the routes";
-    Label& warning =
-        addLabel("lblBarrierWarning", pointInBarrierWarning, warningPlace, {View::Report, View::Plot});
+    Label& warning = addLabel("lblBarrierWarning", pointInBarrierWarning, warningPlace, {View::Report});
     warning.bold = true;
     Seen(warning).when([this] { return barrierWarnings_ > 0; });
 }
@@ -284,11 +283,11 @@ void ROUTER::plot() {
     depotRowZone_ = problem.depotZone;
     map_.emplace(problem, plan);
     vantage_.zoom = routing::usualZoom;
-    layers_ = {};
+    const int warnings = barrierWarnings(problem, plan);
+    layers_ = {.warning = warnings > 0};
     redraw();
     showView(View::Plot);
-    barrierWarnings_ = barrierWarnings(problem, plan);
-    beep(suite(), barrierWarnings_);
+    beep(suite(), warnings);
 }
 
 void ROUTER::redraw() {
@@ -305,7 +304,7 @@ void ROUTER::clearRoutes() {
     std::filesystem::remove(suite().ioPath(planFile), error);
     if (error) throw RuntimeError(ErrorNumber::PathFileAccess);
     map_->clearRoutes();
-    barrierWarnings_ = 0;
+    layers_.warning = false;
     redraw();
 }
 

@@ -93,7 +93,7 @@ class ROUTER : public ModuleFrame {
     bool solveStarted_ = false;  // so that a report may be asked for
     bool reportShown_ = false;   // since the file was opened
     double depotRowZone_ = 0;    // of the stop table's row 0, since a report or plot has filled it
-    int barrierWarnings_ = 0;    // of the plan that is shown
+    int barrierWarnings_ = 0;    // of the last report
     std::optional<PlanMap> map_; // nothing until the first plot
     MapLayers layers_;
     routing::Vantage vantage_;

@@ -41,18 +41,22 @@ constexpr std::array<PageWords, checkPage + 1> pageWords = {{{"Parameters", "cmd
 // Twips of the design.
 constexpr Rect editorPlace{60, 60, 9480, 6330};
 constexpr double pageLeft = 240;
-constexpr double pageTop = 900; // under two rows of tabs
+constexpr double pageTop = 600;
 constexpr double pageWidth = 9120;
 constexpr double pageBottom = 6270;
 constexpr double headingHeight = 260;
+constexpr double headingDrop = 60;
 constexpr double rightLeft = 4860;
-constexpr double fieldStep = 352;
+constexpr double fieldStep = 366;
 constexpr double fieldHeight = 300;
 constexpr double leftCaption = 3800;
-constexpr double rightCaption = 2950;
+constexpr double rightCaption = 3100;
 constexpr double numberBox = 600;
 constexpr double cornerBox = 400;
-constexpr double depotBox = 1400;
+constexpr double breakBox = 550;
+constexpr double rightBox = 1250;
+constexpr double depotCaption = 1500;
+constexpr double depotBox = 2850;
 
 /// A box of the parameters: its name, its caption and its tip.
 struct FieldWords {
@@ -61,10 +65,9 @@ struct FieldWords {
     const char* tip;
 };
 
-// In the order of the record's members, behind the label and the corner.
-constexpr std::array<FieldWords, 8> depotFields = {
-    {{"txtDepot", "Depot description", ""},
-     {"txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0."},
+// In the order of the record's members, behind the label, the corner and the depot's name.
+constexpr std::array<FieldWords, 7> depotFields = {
+    {{"txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0."},
      {"txtDepotX", "Horizontal coordinate", "X coordinate for depot"},
      {"txtDepotY", "Vertical coordinate", "Y coordinate for depot."},
      {"txtEarlyStart", "Earliest starting time (min.)",
@@ -148,34 +151,40 @@ void ROUTER::addParameters() {
 }
 
 void ROUTER::addGeneralFields() {
+    const double second = pageTop + fieldStep;
     FieldColumn title = onParameters(pageLeft, pageTop, 1200, 7800);
-    FieldColumn corner =
-        onParameters(pageLeft, pageTop + fieldStep, leftCaption + numberBox - cornerBox, cornerBox);
+    FieldColumn corner = onParameters(pageLeft, second, leftCaption + numberBox - cornerBox, cornerBox);
+    FieldColumn depot = onParameters(rightLeft, second + fieldStep, depotCaption, depotBox);
     std::vector<TextBox*> boxes = {
         &addField(title, "txtLabel", "Problem label"),
-        &addField(corner, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)")};
+        &addField(corner, "txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)"),
+        &addField(depot, "txtDepot", "Depot description")};
+    addHeading("lblDepotData", "DEPOT DATA", rightLeft, second + headingDrop, parametersPage);
     FieldColumn left = onParameters(pageLeft, corner.top, leftCaption, numberBox);
-    FieldColumn right = onParameters(rightLeft, pageTop + fieldStep, rightCaption, depotBox);
-    const auto addBlock = [&](FieldColumn& column, const std::string& name, const std::string& heading,
-                              std::span<const FieldWords> fields) {
-        addHeading(name, heading, column.left, column.top + 60, parametersPage);
+    FieldColumn right = onParameters(rightLeft, depot.top, rightCaption, rightBox);
+    const auto addHeadingIn = [this](FieldColumn& column, const std::string& name, const std::string& text) {
+        addHeading(name, text, column.left, column.top + headingDrop, parametersPage);
         column.top += column.step;
+    };
+    const auto addBlock = [&](FieldColumn& column, std::span<const FieldWords> fields) {
         for (const FieldWords& words : fields) {
             boxes.push_back(&addField(column, words.name, words.caption));
             boxes.back()->tip = words.tip;
         }
     };
-    addBlock(right, "lblDepotData", "DEPOT DATA", depotFields);
-    addBlock(left, "lblGeneralData", "GENERAL DATA", routeFields);
-    addBlock(left, "lblLoadTime", "LOAD/UNLOAD TIME FORMULA", loadTimeFields);
+    addBlock(right, depotFields);
+    addHeadingIn(left, "lblGeneralData", "GENERAL DATA");
+    addBlock(left, routeFields);
+    addHeadingIn(left, "lblLoadTime", "LOAD/UNLOAD TIME FORMULA");
+    addBlock(left, loadTimeFields);
     general_ = {generalFields, boxes};
 }
 
 void ROUTER::addBreakFields() {
     static constexpr std::array<const char*, breakCount> ordinals = {"1st", "2nd", "3rd", "4th"};
-    const double top = pageTop + 10 * fieldStep + 60;
-    FieldColumn durations = onParameters(rightLeft, top, 2000, numberBox);
-    FieldColumn starts = onParameters(rightLeft + 2750, top, 1000, numberBox);
+    const double top = pageTop + 10 * fieldStep + headingDrop;
+    FieldColumn durations = onParameters(rightLeft, top, 2120, breakBox);
+    FieldColumn starts = onParameters(rightLeft + 2800, top, 1000, breakBox);
     for (int k = 1; k <= breakCount; ++k) {
         const std::string ordinal = ordinals.at(static_cast<std::size_t>(k - 1));
         TextBox& duration =
@@ -216,7 +225,7 @@ void ROUTER::addStops() {
     stops_ = {addSheet("GridStops", stopsPage, mostStops, stopsTitles()),
               stopFields,
               {{"Stop\r\nno.", 480},
-               {"Stop description", 1900},
+               {"Stop description", 1650},
                {"Stop\r\ntype", 460},
                {"Weight", 720},
                {"Cube", 640},

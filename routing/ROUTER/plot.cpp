@@ -17,10 +17,13 @@ namespace {
 // Units of the design.
 constexpr double halfDepot = 16 / 2.4;
 constexpr double stopRadius = 3;
-constexpr double numberRight = 5; // from a point's centre to its number
+constexpr double textGap = 2; // from a point to the text beside it
 constexpr double numberUp = 10;
 
+constexpr double warningMargin = 2;
+
 constexpr double numberSize = 8; // points
+constexpr double warningSize = 10;
 
 GridCorner cornerFor(const std::string& text) {
     const std::string corner = upperCase(text);
@@ -68,11 +71,18 @@ class Pen {
         surface_.circle(centre.x, centre.y, stopRadius * scale_.x, colour::lightRed, true);
     }
 
-    void text(MapPoint beside, const std::string& text) {
+    /// Prints a text beside a point that is drawn so wide.
+    void text(MapPoint beside, double halfWidth, const std::string& text) {
         const SurfacePoint point = at(beside);
         surface_.font = {"Arial", numberSize * scale_.x, false};
-        surface_.moveTo(point.x + numberRight * scale_.x, point.y - numberUp * scale_.y);
+        surface_.moveTo(point.x + (halfWidth + textGap) * scale_.x, point.y - numberUp * scale_.y);
         surface_.print(text, colour::black);
+    }
+
+    void warn(const std::string& text) {
+        surface_.font = {"Arial", warningSize * scale_.x, true};
+        surface_.moveTo(warningMargin * scale_.x, warningMargin * scale_.y);
+        surface_.print(text, colour::lightRed);
     }
 
   private:
@@ -120,10 +130,11 @@ void PlanMap::draw(PictureSurface& surface, Scale scale, routing::Vantage vantag
     for (const Points& route : routes_)
         if (route.size() > 1) pen.closedLine(route);
     for (const Points& barrier : barriers_) pen.closedLine(barrier);
+    if (layers.warning) pen.warn(pointInBarrierWarning);
     if (!layers.numbers) return;
-    pen.text(stops_.front(), "Depot");
+    pen.text(stops_.front(), halfDepot, "Depot");
     for (std::size_t n = 1; n < stops_.size(); ++n)
-        pen.text(stops_[n], format(static_cast<double>(n), "##0"));
+        pen.text(stops_[n], stopRadius, format(static_cast<double>(n), "##0"));
 }
 
 } // namespace vantore::router

@@ -9,10 +9,13 @@
 
 namespace vantore::router {
 
+constexpr const char* pointInBarrierWarning = "*** A POINT LIES WITHIN A BARRIER. CORRECT THIS. ***";
+
 /// What of a map is drawn besides the points, the routes and the barriers.
 struct MapLayers {
     bool numbers = false; ///< of the stops
     bool zones = false;
+    bool warning = false; ///< that a stop lies within a barrier
 };
 
 /// The depot, the stops and the routes between them, with barriers and speed zones.
@@ -25,7 +28,7 @@ class PlanMap {
     void clearRoutes() { routes_.clear(); }
 
     /// Clears the surface and draws: the zones under all else; the depot as a blue square, each stop as a red
-    /// circle; each route as a closed line, each barrier by its four sides.
+    /// circle; each route as a closed line, each barrier by its four sides; the warning and the numbers.
     void draw(PictureSurface& surface, Scale scale, routing::Vantage vantage, MapLayers layers) const;
 
   private:

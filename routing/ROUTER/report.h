@@ -8,8 +8,6 @@
 
 namespace vantore::router {
 
-constexpr const char* pointInBarrierWarning = "*** A POINT LIES WITHIN A BARRIER. CORRECT THIS. ***";
-
 /// What stands at the head of a report.
 struct ReportHead {
     std::string label;
