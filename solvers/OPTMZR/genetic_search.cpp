@@ -27,10 +27,10 @@ constexpr double mostPenalty = 1E+05;
 constexpr double repairFactor = 10;
 constexpr double slack = 1E-08;
 
-/// Steps that a problem is worth.
+/// Steps that a problem is worth, twice as many for each pair of stops of the largest one as of the smallest.
 long long stepsFor(int stopCount) {
     constexpr long long stepsOfAPair = 27'000;
-    return stepsOfAPair * stopCount * stopCount;
+    return stepsOfAPair * stopCount * stopCount * (router::mostStops + stopCount) / router::mostStops;
 }
 
 } // namespace

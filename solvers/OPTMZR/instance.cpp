@@ -164,6 +164,9 @@ void Instance::takeLimits(const Problem& problem) {
     };
     clockMatters =
         !clock.breaks.empty() || !std::all_of(customers.begin() + 1, customers.end(), isAlwaysOpen);
+    constexpr int withWindows = 2;
+    constexpr int withBreaks = 4;
+    if (clockMatters) stepsAStop = clock.breaks.empty() ? withWindows : withBreaks;
 }
 
 } // namespace vantore::optmzr

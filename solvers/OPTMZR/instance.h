@@ -64,6 +64,7 @@ struct Instance {
 
     bool clockMatters = false; ///< windows, splits or breaks that no limit of a route covers
     bool loadsMix = false;     ///< deliveries and pickups
+    int stepsAStop = 1;        ///< that valuing a route takes, as a measure of time
 
     double distance(int from, int to) const { return distances_[place(from, to)]; }
     double minutes(int from, int to) const { return minutes_[place(from, to)]; }

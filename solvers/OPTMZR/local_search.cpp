@@ -204,7 +204,7 @@ RouteValue LocalSearch::valueOf(int fleet, const Splice& splice, const RouteSums
                                 std::vector<int>& stops) {
     splice.stops(stops);
     if (stops.empty()) return {};
-    work_ += static_cast<long long>(stops.size());
+    work_ += instance_.stepsAStop * static_cast<long long>(stops.size());
     return judge_.value(instance_.fleet(fleet), sums, stops);
 }
 
@@ -559,7 +559,7 @@ bool LocalSearch::changeVehicle(int index) {
 bool LocalSearch::exchangeVehicles(int indexA, int indexB) {
     SearchRoute& a = route(indexA);
     SearchRoute& b = route(indexB);
-    work_ += a.size() + b.size();
+    work_ += instance_.stepsAStop * (a.size() + b.size());
     const RouteValue valueA = judge_.value(instance_.fleet(b.fleet()), a.sums(), a.stops());
     const RouteValue valueB = judge_.value(instance_.fleet(a.fleet()), b.sums(), b.stops());
     if (valueA.penalised + valueB.penalised >= a.value().penalised + b.value().penalised - leastGain)

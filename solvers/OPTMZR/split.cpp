@@ -47,7 +47,7 @@ void Split::price(const std::vector<int>& tour) {
             const std::span<const int> stops(tour.data() + first, last - first);
             const RouteSums sums = sumsOf(instance_, stops);
             if (last > first + 1 && isTooLong(sums)) break;
-            work_ += static_cast<long long>(stops.size());
+            work_ += instance_.stepsAStop * static_cast<long long>(stops.size());
             const RouteOrder order = judge_.order(sums, stops);
             Part part{.first = first, .costs = {}, .cheapest = 0};
             for (int f = 0; f < instance_.fleetCount(); ++f) {

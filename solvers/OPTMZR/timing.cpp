@@ -174,6 +174,15 @@ Phase onlyPhase(const Clock& clock, const TimedRoute& route) {
     return {.from = clock.earliestStart, .arrivals = route.arrivals};
 }
 
+/// From which on some stop, or the depot, is reached late by as much as the start is later.
+double latestStart(const Clock& clock, const TimedRoute& route) {
+    double latest = clock.latestReturn - route.arrivals.back();
+    for (std::size_t i = 0; i < route.open.size(); ++i)
+        if (!route.open[i]->neverOpen())
+            latest = std::min(latest, route.open[i]->wholeDay().end - route.arrivals[i]);
+    return latest;
+}
+
 /// The starts of a phase at which a window begins or ends to be kept.
 std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route, const Phase& phase) {
     std::vector<double> starts{phase.from};
@@ -234,7 +243,8 @@ Timing bestTiming(const Clock& clock, const TimedRoute& route) {
     Phases phases(clock, route);
     Timing best = Windows(clock, route, phases.now()).best();
     // A later start never makes the breaks shorter, so that the first phase without excess is the best one.
-    while (best.excess() > 0 && phases.now().from <= clock.latestReturn && phases.next()) {
+    const double latest = latestStart(clock, route);
+    while (best.excess() > phases.now().from - latest && best.excess() > 0 && phases.next()) {
         const Timing timing = Windows(clock, route, phases.now()).best();
         if (timing.excess() < best.excess()) best = timing;
     }

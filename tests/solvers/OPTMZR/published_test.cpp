@@ -15,7 +15,7 @@ int mixedProblems(int usually) {
 }
 
 TEST(Search, IsNeverDearerThanThePlanThatAProblemWasBuiltAround) {
-    constexpr int usually = 12;
+    constexpr int usually = 8;
     const int wanted = mixedProblems(usually);
     for (int seed = 1; seed <= wanted; ++seed) {
         bench::MixedProblems source(static_cast<unsigned>(seed));

@@ -101,7 +101,7 @@ TEST(Search, FindsTheBestOfAllPlansOfSmallProblems) {
     const int wanted = problemsOfAKind(200);
     int feasible = 0;
     for (int trial = 0; trial < wanted; ++trial) {
-        const Problem problem = problems.next(trial % 20 == 0 ? 8 : problems.from(1, 6));
+        const Problem problem = problems.next(trial % 50 == 0 ? 8 : problems.from(1, 6));
         const BestOfAll best = enumerated(problem);
         const Judgement judgement = found(problem).judgement;
         ASSERT_EQ(judgement.violations, best.violations) << "problem " << trial;
@@ -116,7 +116,7 @@ TEST(Search, FindsTheBestOfAllPlansOfSmallProblems) {
 TEST(Search, FindsTheCheapestPlanWhereOnlyLoadsLimitIt) {
     RandomProblems problems(1962);
     int solved = 0;
-    for (int trial = 0; solved < problemsOfAKind(200); ++trial) {
+    for (int trial = 0; solved < problemsOfAKind(40); ++trial) {
         const Problem problem = withoutLimits(problems.next(problems.from(9, 12)), problems);
         const double best = bestCostBySubsets(problem);
         if (best < 0) continue;
@@ -129,8 +129,8 @@ TEST(Search, FindsTheCheapestPlanWhereOnlyLoadsLimitIt) {
 
 TEST(Search, MakesTheSamePlanInOtherUnits) {
     RandomProblems problems(1000);
-    for (int trial = 0; trial < problemsOfAKind(20); ++trial) {
-        const Problem problem = problems.next(problems.from(5, 15));
+    for (int trial = 0; trial < problemsOfAKind(5); ++trial) {
+        const Problem problem = problems.next(problems.from(9, 15));
         const router::Plan plan = found(problem).plan;
         for (const double factor : {1E-03, 1E+03}) {
             const router::Plan other = found(scaled(problem, factor)).plan;
@@ -146,8 +146,8 @@ TEST(Search, MakesTheSamePlanInOtherUnits) {
 
 TEST(Search, MakesTheSamePlanEachTime) {
     RandomProblems problems(77);
-    for (int trial = 0; trial < 5; ++trial) {
-        const Problem problem = problems.next(problems.from(5, 20));
+    for (int trial = 0; trial < 2; ++trial) {
+        const Problem problem = problems.next(problems.from(9, 15));
         EXPECT_EQ(textOf(found(problem).plan), textOf(found(problem).plan));
     }
 }
