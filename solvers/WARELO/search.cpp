@@ -19,10 +19,14 @@ constexpr int stepsPerHalf = 80;
 constexpr double goodEnough = 1E-7; // of the cost
 constexpr double wellEnough = 5E-5; // of the cost: not worth halving ranges for
 
-/// Brackets that may be looked at while ranges are halved: customers x warehouses x steps. The search then
-/// takes less than a second.
-constexpr double mostWork = 4E+7;
-constexpr int mostHalvings = 100;
+/// How long ranges are halved: `work` is customers x warehouses x steps.
+struct Effort {
+    int halvings;
+    double work;
+};
+constexpr Effort usualEffort = {100, 4E+7};       // less than a second
+constexpr Effort effortForWideGap = {3000, 1E+9}; // some seconds
+constexpr double wideGap = 1E-3;                  // of the cost
 
 /// The best of both so far, told whenever it gets better.
 class Progress {
@@ -92,8 +96,7 @@ class Halving {
 
     void run(const Bound& whole) {
         std::vector<Bound> open = {whole};
-        for (int halving = 0; halving < mostHalvings && work_ < mostWork; ++halving) {
-            if (progress_.found().gap() <= wellEnough) return;
+        for (int halving = 0; isWorthWhile(halving); ++halving) {
             const auto lowest = std::ranges::min_element(open, {}, &Bound::value);
             const Bound bound = *lowest;
             open.erase(lowest);
@@ -109,6 +112,12 @@ class Halving {
     }
 
   private:
+    bool isWorthWhile(int halving) const {
+        const double gap = progress_.found().gap();
+        const Effort& effort = gap > wideGap ? effortForWideGap : usualEffort;
+        return gap > wellEnough && halving < effort.halvings && work_ < effort.work;
+    }
+
     Bound raised(Bound bound) {
         for (int step = 0; step < stepsPerHalf && bound.value() < progress_.found().cost; ++step) {
             work_ += workOfStep_;

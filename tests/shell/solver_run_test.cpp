@@ -229,6 +229,16 @@ TEST_F(SolverRunTest, ShowsWhatAnInterruptedSolverReports) {
     EXPECT_EQ(session.readFile("OUTPUT.Dat"), "best\n");
 }
 
+TEST_F(SolverRunTest, ShowsHowFarTheSolverHasCome) {
+    takeSolver("trap 'echo best > \"$report\"; exit 0' INT\n"
+               "echo 'Best cost so far 12 $' > \"$VANTORE_IO/PROGRESS.DAT\"\n"
+               ": > \"$VANTORE_IO/ready\"\nwhile :; do sleep .02; done");
+    std::string notes;
+    solveInterrupted(session, notes);
+    EXPECT_NE(notes.find("  Best cost so far 12 $"), std::string::npos) << notes;
+    EXPECT_FALSE(session.fileExists("PROGRESS.DAT"));
+}
+
 template <class Condition>
 bool soon(const Condition& condition) {
     const auto start = Clock::now();
