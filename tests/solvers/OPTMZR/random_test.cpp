@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
 #include "tests/routing/ROUTER/random_problems.h"
 #include "tests/solvers/OPTMZR/enumeration.h"
@@ -96,6 +97,15 @@ Problem scaled(Problem problem, double factor) {
     return problem;
 }
 
+void expectSamePlan(const router::Plan& plan, const router::Plan& expected, const std::string& where) {
+    ASSERT_EQ(plan.routeCount, expected.routeCount) << where;
+    for (int r = 1; r <= expected.routeCount; ++r) {
+        EXPECT_EQ(plan.routes(r).stops, expected.routes(r).stops) << where;
+        EXPECT_EQ(plan.routes(r).vehicle, expected.routes(r).vehicle) << where;
+        EXPECT_NEAR(plan.routes(r).start, expected.routes(r).start, 1E-06) << where;
+    }
+}
+
 TEST(Search, FindsTheBestOfAllPlansOfSmallProblems) {
     RandomProblems problems(20261121);
     const int wanted = problemsOfAKind(200);
@@ -127,21 +137,24 @@ TEST(Search, FindsTheCheapestPlanWhereOnlyLoadsLimitIt) {
     }
 }
 
+/// A load that equals the capacity to the last digit in one unit may exceed it by the last digit in another,
+/// as the report then says too. Such plans are left out, and there must be few.
 TEST(Search, MakesTheSamePlanInOtherUnits) {
     RandomProblems problems(1000);
-    for (int trial = 0; trial < problemsOfAKind(5); ++trial) {
+    int compared = 0;
+    const int wanted = problemsOfAKind(5);
+    for (int trial = 0; trial < wanted; ++trial) {
         const Problem problem = problems.next(problems.from(9, 15));
-        const router::Plan plan = found(problem).plan;
+        const FoundPlan best = found(problem);
         for (const double factor : {1E-03, 1E+03}) {
-            const router::Plan other = found(scaled(problem, factor)).plan;
-            ASSERT_EQ(other.routeCount, plan.routeCount) << "problem " << trial;
-            for (int r = 1; r <= plan.routeCount; ++r) {
-                ASSERT_EQ(other.routes(r).stops, plan.routes(r).stops) << "problem " << trial;
-                ASSERT_EQ(other.routes(r).vehicle, plan.routes(r).vehicle) << "problem " << trial;
-                ASSERT_NEAR(other.routes(r).start, plan.routes(r).start, 1E-06) << "problem " << trial;
-            }
+            const Problem scaledProblem = scaled(problem, factor);
+            const router::Travel travel(scaledProblem);
+            if (judged(scaledProblem, travel, best.plan).violations != best.judgement.violations) continue;
+            ++compared;
+            expectSamePlan(found(scaledProblem).plan, best.plan, "problem " + std::to_string(trial));
         }
     }
+    EXPECT_GE(compared, wanted * 3 / 2);
 }
 
 TEST(Search, MakesTheSamePlanEachTime) {
