@@ -91,6 +91,21 @@ TEST(StopMapHeading, CutsLongLabels) {
     EXPECT_TRUE(Drawn(problem).text(8, 1, "Problem: An uncommonly long label"));
 }
 
+TEST(StopMapNumbers, StandAtEveryStopAndNotAtTheDepot) {
+    const StopSequencingProblem problem = stopsAt({0, 0}, {{632, 448}, {0, 448}, {632, 0}});
+    Drawn drawn(problem);
+    const std::size_t before = drawn.texts().size();
+    StopMap(problem, {}).drawNumbers(drawn.surface, {});
+    std::vector<std::string> texts = drawn.texts();
+    texts.erase(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(before));
+    EXPECT_EQ(texts, (std::vector<std::string>{"1", "2", "3"}));
+    EXPECT_TRUE(std::ranges::any_of(drawn.surface.operations(), [](const SurfaceOperation& operation) {
+        const auto* held = std::get_if<SurfaceText>(&operation);
+        return held != nullptr && held->text == "2" && std::abs(held->x - 35.6) < 12 &&
+               std::abs(held->y - 30.4) < 20;
+    }));
+}
+
 TEST(StopMap, IsAsLargeAsItsScale) {
     const Drawn drawn(stopsAt({0, 0}, {{632, 448}}), {2, 1.5});
     EXPECT_TRUE(drawn.line(2 * 35.6, 1.5 * 439.6, 2 * 604.4, 1.5 * 439.6));
