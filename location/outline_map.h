@@ -9,6 +9,9 @@
 
 namespace vantore {
 
+/// Its file in the install folder.
+inline constexpr const char* outlineMapFile = "MAP.DAT";
+
 /// The outline map under the plots of the location modules: the file MAP.DAT of the install folder.
 
 /// Degrees; north latitudes and west longitudes are positive.

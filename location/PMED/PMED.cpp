@@ -22,7 +22,6 @@ const ModuleWording pmedWording = {.name = "PMED",
 constexpr const char* solverProgram = "PMED.EXE";
 constexpr const char* solverInput = "FORRUN";
 constexpr const char* solverOutput = "FOROUT";
-constexpr const char* mapFile = "MAP.DAT";
 
 constexpr int xColumn = 2;
 constexpr int yColumn = 3;
@@ -233,7 +232,7 @@ void PMED::printData() {
 
 SitePlot PMED::beginPlot(const Problem& problem) {
     if (problem.coordinates == Coordinates::Linear) return plotOnAxes(*picOut, scale(), problem);
-    ItemReader reader(readTextFile(suite().installPath(mapFile)));
+    ItemReader reader(readTextFile(suite().installPath(outlineMapFile)));
     return plotOnMap(*picOut, scale(), problem, readMap(reader));
 }
 

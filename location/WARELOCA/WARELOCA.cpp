@@ -27,7 +27,6 @@ constexpr const char* caseFile = "FIL.DAT";
 constexpr const char* selectionFile = "OLDSOL.DAT";
 constexpr const char* reportFile = "OUTPUT.DAT";
 constexpr const char* flowFile = "TEMP.DAT";
-constexpr const char* mapFile = "MAP.DAT";
 constexpr const char* baseCase = "LTH01.DAT";
 
 enum Page { plantPage, warehousePage, customerPage };
@@ -280,7 +279,7 @@ void WARELOCA::printData() {
 // Plot
 
 void WARELOCA::plot() {
-    ItemReader reader(readTextFile(suite().installPath(mapFile)));
+    ItemReader reader(readTextFile(suite().installPath(outlineMapFile)));
     const OutlineMap map = readMap(reader);
     plotMap(*picOut, scale(), map);
     showView(View::Plot);

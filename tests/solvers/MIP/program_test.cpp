@@ -13,6 +13,7 @@
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
 #include "tests/solvers/MIP/problems.h"
+#include "tests/support/solver_processes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::mip::tests {
@@ -247,17 +248,7 @@ class BusyProgram : public Program {
 
     /// The processes in which MIP.EXE works, those that it has started at last.
     std::vector<pid_t> processes() const {
-        std::vector<pid_t> found;
-        for (const auto& entry : fs::directory_iterator("/proc")) {
-            const std::string name = entry.path().filename().string();
-            if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-            if (contents(entry.path() / "environ").find("VANTORE_IO=" + folder_.path().string() + "/") !=
-                    std::string::npos &&
-                contents(entry.path() / "comm") == "MIP.EXE\n")
-                found.push_back(std::stoi(name));
-        }
-        std::sort(found.begin(), found.end());
-        return found;
+        return vantore::tests::solverProcesses(folder_.path(), "MIP.EXE");
     }
 
     void awaitEnd() {

@@ -18,6 +18,7 @@
 #include "tests/routing/ROUTER/random_problems.h"
 #include "tests/solvers/OPTMZR/found.h"
 #include "tests/support/module_session.h"
+#include "tests/support/solver_processes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::optmzr::tests {
@@ -170,17 +171,7 @@ class BusyOptmzr : public OptmzrProgram {
 
     /// The processes in which OPTMZR.EXE works, the search at last.
     std::vector<pid_t> processes() const {
-        std::vector<pid_t> found;
-        for (const auto& entry : fs::directory_iterator("/proc")) {
-            const std::string name = entry.path().filename().string();
-            if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-            if (contents(entry.path() / "environ").find("VANTORE_IO=" + folder_.path().string() + "/") !=
-                    std::string::npos &&
-                contents(entry.path() / "comm") == "OPTMZR.EXE\n")
-                found.push_back(std::stoi(name));
-        }
-        std::sort(found.begin(), found.end());
-        return found;
+        return vantore::tests::solverProcesses(folder_.path(), "OPTMZR.EXE");
     }
 
     void awaitEnd() {

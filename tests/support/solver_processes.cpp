@@ -1,0 +1,32 @@
+#include "tests/support/solver_processes.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace vantore::tests {
+
+namespace {
+
+std::string contents(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace
+
+std::vector<pid_t> solverProcesses(const std::filesystem::path& ioFolder, const std::string& program) {
+    std::vector<pid_t> found;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename().string();
+        if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+        const std::string environment = contents(entry.path() / "environ");
+        if (environment.find("VANTORE_IO=" + ioFolder.string() + "/") != std::string::npos &&
+            contents(entry.path() / "comm") == program + "\n")
+            found.push_back(std::stoi(name));
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+} // namespace vantore::tests
