@@ -1,8 +1,17 @@
 #include "solvers/MIP/search.h"
 
 #include <CbcEventHandler.hpp>
+#include <CbcHeuristic.hpp>
+#include <CbcHeuristicFPump.hpp>
 #include <CbcModel.hpp>
-#include <CbcStrategy.hpp>
+#include <CglClique.hpp>
+#include <CglFlowCover.hpp>
+#include <CglGomory.hpp>
+#include <CglKnapsackCover.hpp>
+#include <CglMixedIntegerRounding2.hpp>
+#include <CglProbing.hpp>
+#include <CglTwomir.hpp>
+#include <CglZeroHalf.hpp>
 #include <OsiClpSolverInterface.hpp>
 #include <algorithm>
 #include <cmath>
@@ -18,7 +27,16 @@ namespace {
 
 // CBC's settings for branching on several candidates before it trusts its estimates.
 constexpr int strongCandidates = 5;
-constexpr int trustedBranchings = 5;
+constexpr int trustedBranchings = 10;
+
+// Of the cutting planes. A kind that helps at the root is called below it too, says CBC's -98.
+constexpr int whereItHelps = -98;
+constexpr int cutPasses = 10;       // at a node below the root
+constexpr int longestGomory = 50;   // variables in a cut below the root
+constexpr int longestAtRoot = 1000; // and at the root
+constexpr int longestTwomir = 250;
+constexpr int probedAtNode = 10; // variables whose values are tried
+constexpr int probedAtRoot = 50;
 
 constexpr double integerTolerance = 1E-09; // what a variable may be off a whole number and count as one
 constexpr double leastGain = 1E-09;        // of the objective: what a better solution is better by
@@ -140,13 +158,56 @@ double increment(const Model& model, const LinearModel& linear, const CbcModel& 
     return leastGain * std::abs(search.getContinuousObjective());
 }
 
+CglProbing probing() {
+    CglProbing cuts;
+    constexpr int rowAndColumnCuts = 3;
+    cuts.setRowCuts(rowAndColumnCuts);
+    cuts.setUsingObjective(1);
+    cuts.setMaxPass(1);
+    cuts.setMaxPassRoot(1);
+    cuts.setMaxLook(probedAtNode);
+    cuts.setMaxProbeRoot(probedAtRoot);
+    cuts.setMaxLookRoot(probedAtRoot);
+    return cuts;
+}
+
+/// Every kind of cutting plane that the library has for problems without a structure known beforehand.
+void addCuts(CbcModel& search) {
+    CglProbing implied = probing();
+    CglGomory gomory;
+    gomory.setLimit(longestGomory);
+    gomory.setLimitAtRoot(longestAtRoot);
+    CglTwomir twoStep;
+    twoStep.setMaxElements(longestTwomir);
+    CglKnapsackCover covers;
+    CglClique cliques;
+    cliques.setStarCliqueReport(false);
+    cliques.setRowCliqueReport(false);
+    CglMixedIntegerRounding2 rounding;
+    CglFlowCover flows;
+    CglZeroHalf halves;
+    const std::initializer_list<CglCutGenerator*> kinds = {&implied, &gomory,   &covers,  &cliques,
+                                                           &flows,   &rounding, &twoStep, &halves};
+    for (CglCutGenerator* kind : kinds) search.addCutGenerator(kind, whereItHelps);
+    search.setMaximumCutPasses(cutPasses);
+}
+
+void addHeuristics(CbcModel& search) {
+    CbcRounding rounding(search);
+    search.addHeuristic(&rounding);
+    CbcHeuristicFPump pump(search);
+    search.addHeuristic(&pump);
+}
+
 void prepare(CbcModel& search) {
     search.setLogLevel(0);
     search.setIntegerTolerance(integerTolerance);
     search.setAllowableGap(0);
     search.setAllowableFractionGap(0);
-    CbcStrategyDefault strategy(1, strongCandidates, trustedBranchings, 0);
-    search.setStrategy(strategy);
+    search.setNumberStrong(strongCandidates);
+    search.setNumberBeforeTrust(trustedBranchings);
+    addCuts(search);
+    addHeuristics(search);
 }
 
 SearchEnd endOf(const CbcModel& search, const LinearModel& linear, const std::optional<Rational>& found) {
@@ -168,8 +229,8 @@ SearchEnd search(const Model& given, const SearchNews& news) {
     limitIntegers(model, model.box);
     const LinearModel linear = linearModel(model);
     CbcModel search(interfaceFor(model, linear));
-    prepare(search);
     search.initialSolve();
+    prepare(search);
     search.setCutoffIncrement(increment(model, linear, search));
     Watcher::Found found{Completion(model), std::nullopt};
     Watcher watcher(model, linear, news, found);
