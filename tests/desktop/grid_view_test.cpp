@@ -53,15 +53,15 @@ class GridViewTest : public testing::Test {
     bool inView(int row, int col) const { return view.viewport()->rect().contains(middle(row, col)); }
 
     /// The middle of a column's caption and of a row's number, each in its heading.
-    void clickColumn(int col) {
+    void clickColumn(int col, Qt::KeyboardModifiers modifiers = {}) {
         QHeaderView& heading = *view.horizontalHeader();
         const QPoint place(heading.sectionViewportPosition(col - 1) + heading.sectionSize(col - 1) / 2, 8);
-        QTest::mouseClick(heading.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(heading.viewport(), Qt::LeftButton, modifiers, place);
     }
-    void clickRow(int row) {
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
         QHeaderView& heading = *view.verticalHeader();
         const QPoint place(8, heading.sectionViewportPosition(row - 1) + heading.sectionSize(row - 1) / 2);
-        QTest::mouseClick(heading.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(heading.viewport(), Qt::LeftButton, modifiers, place);
     }
 
     SampleForm form;
@@ -161,6 +161,23 @@ TEST_F(GridViewTest, AHeadingHighlightsItsColumnAndARowNumberItsRow) {
     EXPECT_EQ(selection(), "5,1 - 5,4");
     EXPECT_EQ(current(), "5,1");
     EXPECT_EQ(form.log, "");
+}
+
+TEST_F(GridViewTest, ShiftExtendsTheHighlightFromTheColumnOrRowWhereItBegan) {
+    clickColumn(3);
+    clickColumn(4, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "1,3 - 40,4");
+    EXPECT_EQ(current(), "1,3");
+    clickColumn(1, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "1,1 - 40,3");
+    EXPECT_EQ(current(), "1,3");
+    clickRow(2);
+    clickRow(1, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "1,1 - 2,4");
+    EXPECT_EQ(current(), "2,1");
+    clickRow(4, Qt::ShiftModifier);
+    EXPECT_EQ(selection(), "2,1 - 4,4");
+    EXPECT_EQ(current(), "2,1");
 }
 
 TEST_F(GridViewTest, TheCornerAndControlAHighlightAll) {
