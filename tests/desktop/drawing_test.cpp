@@ -1,6 +1,7 @@
 #include "drawing/drawing.h"
 
 #include <QImage>
+#include <QPainter>
 #include <gtest/gtest.h>
 
 #include "drawing/chart_drawing.h"
@@ -139,6 +140,11 @@ TEST(Drawing, ATextAtTheFootOfThePaperIsSeenWhole) {
     EXPECT_GT(first, 155);
     EXPECT_GT(last - first, 22) << "four fifths of it at least";
     EXPECT_LT(last, 199);
+
+    QImage paper(300, 200, QImage::Format_RGB32);
+    QPainter painter(&paper);
+    SurfacePage(form.surface, {300, 200}).paint(painter);
+    EXPECT_EQ(painter.transform(), QTransform()) << "what is painted next is as large as before";
 }
 
 TEST(Drawing, AWindowIsDrawnWithItsLabelsWhereTheyStandToEachOther) {

@@ -257,6 +257,15 @@ TEST_F(FormWindowTest, ASmallerWindowDrawsAllSmaller) {
     }
 }
 
+TEST(FormWindowLetters, GrowWithTheScreenThatTheFormIsLaidOutFor) {
+    const auto lettersAt = [](double scale) {
+        SampleForm form({scale, scale});
+        const OpenWindow<SampleForm> open{form};
+        return open.window.widgetOf(form.lblName)->font().pointSizeF();
+    };
+    EXPECT_NEAR(lettersAt(1.5), 1.5 * lettersAt(1), .1);
+}
+
 TEST_F(FormWindowTest, ACaptionTooLongForItsButtonIsCutAndShownWholeAsATip) {
     form.cmdSolve.caption = "A caption that is much too long for this button";
     refresh();

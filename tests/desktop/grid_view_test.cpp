@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/grid_view.h"
+#include "drawing/fonts.h"
 #include "tests/desktop/sample_form.h"
 
 namespace vantore::tests {
@@ -259,6 +260,16 @@ TEST_F(GridViewTest, ATextTooLongForItsCellComesAsATip) {
     };
     EXPECT_EQ(tipAt(view.viewport(), middle(2, 1)), "<qt>A name that is much longer than its column</qt>");
     EXPECT_EQ(tipAt(view.viewport(), middle(1, 1)), "");
+    const auto justWithin = [&](int width) {
+        std::string text;
+        while (QFontMetricsF(view.font()).horizontalAdvance(qtText(text + 'i')) <= width) text += 'i';
+        return text;
+    };
+    const std::string whole = justWithin(view.cellRect(2, 1).width());
+    form.grid.setCell(2, 1, whole);
+    open.window.refresh();
+    EXPECT_EQ(tipAt(view.viewport(), middle(2, 1)), "<qt>" + qtText(whole) + "</qt>")
+        << "the cell's margins take some of its room";
     QWidget* numbers = view.verticalHeader()->viewport();
     EXPECT_EQ(tipAt(numbers, {8, middle(3, 1).y()}), "<qt>A row's name that is longer, too</qt>");
     EXPECT_EQ(tipAt(numbers, {8, middle(2, 1).y()}), "");
@@ -274,6 +285,7 @@ TEST_F(GridViewTest, RowsComeAndGoWithTheGrid) {
     open.window.refresh();
     EXPECT_EQ(view.model()->rowCount(), 2);
     EXPECT_EQ(view.model()->columnCount(), 8);
+    EXPECT_EQ(view.horizontalHeader()->count(), 8) << "headings too";
 }
 
 TEST_F(GridViewTest, ADoubleClickIsTheGridsWhereItHasAMeaning) {
