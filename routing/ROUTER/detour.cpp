@@ -67,6 +67,16 @@ std::array<Edge, edgeCount> edgesOf(const Barrier& barrier, GridScale scale) {
             edge(southeast, northeast)};
 }
 
+/// Whether a way may meet a barrier at all. Most are far from each other, and this is soon known.
+bool mayMeet(const Barrier& barrier, Place from, Place to) {
+    const auto [left, right] =
+        std::minmax({barrier.northwestX, barrier.northeastX, barrier.southwestX, barrier.southeastX});
+    const auto [bottom, top] =
+        std::minmax({barrier.northwestY, barrier.northeastY, barrier.southwestY, barrier.southeastY});
+    return std::max(from.x, to.x) >= left && std::min(from.x, to.x) <= right &&
+           std::max(from.y, to.y) >= bottom && std::min(from.y, to.y) <= top;
+}
+
 /// Both vertical or both horizontal, and on one line.
 bool runsAlong(const Line& way, const Line& edge) {
     if (way.kind != edge.kind) return false;
@@ -135,6 +145,7 @@ double straightDistance(Place a, Place b, GridScale scale) {
 }
 
 BarrierEffect barrierEffect(const Barrier& barrier, Place from, Place to, GridScale scale) {
+    if (!mayMeet(barrier, from, to)) return {};
     const Line way(from, to);
     auto edges = edgesOf(barrier, scale);
     long crossings = 0;
