@@ -43,6 +43,15 @@ constexpr Rect startPlace{1200, 1000, 7200, 5200};
 constexpr Rect surfacePlace{0, 0, 9600, 6780};
 constexpr Rect warningPlace{120, 6480, 9255, 280};
 
+/// The first stops of those that a user has typed.
+std::vector<int> firstStops(const std::string& typed, int count) {
+    checkIndex(count, 0, mostStopsPerRoute);
+    const CountedTable<double> numbers = routing::destring2(typed);
+    std::vector<int> stops;
+    for (int i = 1; i <= count; ++i) stops.push_back(toInt32(numbers(i)));
+    return stops;
+}
+
 void beep(Suite& suite, int times) {
     for (int i = 0; i < times; ++i) suite.platform.display.beep();
 }
@@ -208,11 +217,11 @@ void ROUTER::specifyRoutes() {
 }
 
 std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem) {
-    const std::string which = joined("For route ", number);
-    const auto vehicle = ask(which + ", the vehicle type is?", "Vehicle type", "Enter type");
+    const std::string route = joined("For route ", number);
+    const auto vehicle = ask(route + ", the vehicle type is?", "Vehicle type", "Enter type");
     if (!vehicle) return std::nullopt;
     const auto start =
-        ask(which + ", the route starting time in minutes is?", "Starting time", "Enter time in minutes");
+        ask(route + ", the route starting time in minutes is?", "Starting time", "Enter time in minutes");
     if (!start) return std::nullopt;
     const auto count =
         ask(joined("Number of stops on route ", number) + " is?", "Number of stops", "Enter number of stops");
@@ -220,18 +229,8 @@ std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem)
     const auto stops =
         ask(joined("The stops in sequence for route ", number) + " are?", "Stops", "Enter stops, e.g. 2,3,5");
     if (!stops) return std::nullopt;
-    const int stopCount = toInt32(val(*count));
-    checkIndex(stopCount, 0, mostStopsPerRoute);
-    const CountedTable<double> numbers = routing::destring2(*stops);
-    PlannedRoute route;
-    route.vehicle = toInt32(val(*vehicle));
-    route.start = val(*start);
-    route.weightCapacity = problem.vehicles(route.vehicle).weightCapacity;
-    for (int i = 1; i <= stopCount; ++i) {
-        route.stops.push_back(toInt32(numbers(i)));
-        route.totalWeight = finite(route.totalWeight + problem.stops(route.stops.back()).weight);
-    }
-    return route;
+    return plannedRoute(problem, toInt32(val(*vehicle)), val(*start),
+                        firstStops(*stops, toInt32(val(*count))));
 }
 
 // Report
