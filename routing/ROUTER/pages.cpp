@@ -80,8 +80,7 @@ constexpr std::array<FieldWords, 7> depotFields = {
 constexpr std::array<FieldWords, 5> routeFields = {
     {{"txtPercntPickup", "Percent of vehicle in use before allowing pickups",
       "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point on "
-      "route "
-      "regardless of remaining load on vehicle.  "},
+      "route regardless of remaining load on vehicle.  "},
      {"txtXScaleFactor", "Horizontal scaling factor",
       "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor."},
      {"txtYScaleFactor", "Vertical scaling factor",
@@ -212,8 +211,8 @@ GridRows& ROUTER::addSheet(const std::string& name, int page, int limit, const R
     grid.page = page;
     Seen(grid).when([this] { return editing_; });
     grid.onKey = [&rows, &grid](int code) {
-        if (code != keys::enter || grid.rowCount() == 0 || grid.row() < grid.rowCount())
-            return rows.keyPress(code);
+        const int lastRow = grid.rows() - 1;
+        if (code != keys::enter || grid.rowCount() == 0 || grid.row() < lastRow) return rows.keyPress(code);
         rows.insertKey();
         grid.setCurrent(grid.rows() - 1, 1);
     };

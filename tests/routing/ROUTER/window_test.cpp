@@ -98,6 +98,81 @@ TEST_F(RouterWindow, StartsWithItsDefaults) {
     for (const auto& [name, text] : defaults) EXPECT_EQ(fresh.module().find(name)->shownText(), text) << name;
 }
 
+struct BoxWords {
+    const char* box;
+    const char* caption;
+    const char* tip;
+};
+
+const std::vector<BoxWords> parameterWords = {
+    {"txtLabel", "Problem label", ""},
+    {"txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)", ""},
+    {"txtDepot", "Depot description", ""},
+    {"txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0."},
+    {"txtDepotX", "Horizontal coordinate", "X coordinate for depot"},
+    {"txtDepotY", "Vertical coordinate", "Y coordinate for depot."},
+    {"txtEarlyStart", "Earliest starting time (min.)", "Earliest time that the vehicle may leave the depot."},
+    {"txtReturnTime", "Latest return time (min.)", "Latest time that a vehicle may reurn to the depot"},
+    {"txtDefaultSpeed", "Default vehicle speed (dist. per hour)",
+     "Default speed of the vehicles if more specific speeds are not specified."},
+    {"txtOtime", "After how many hours will overtime begin",
+     "Time into a route after which overtime rates may apply."},
+    {"txtPercntPickup", "Percent of vehicle in use before allowing pickups",
+     "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point on "
+     "route regardless of remaining load on vehicle.  "},
+    {"txtXScaleFactor", "Horizontal scaling factor",
+     "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor."},
+    {"txtYScaleFactor", "Vertical scaling factor",
+     "Multipler to convert Y coordinates to miles or kilometers.  May include a circuity factor."},
+    {"txtMaxTime", "Maximum TIME allowed on a route (hours)", "Controls length of a route."},
+    {"txtMaxDist", "Maximum DISTANCE allowed on a route (dist.)", "Controls length of a route."},
+    {"txtFixedTime", "Fixed time per stop", "Fixed coefficient of load time formula."},
+    {"txtVarTimeperLb", "Variable time per stop:  By weight", "Variable coefficient of load time formula."},
+    {"txtVarTimePerCube", "By cube", "Variable coefficient of load time formula."},
+    {"txtDur1stBrk", "Duration of 1st break (min.)", "Length of break time"},
+    {"txtDur2ndBrk", "Duration of 2nd break (min.)", "Length of break time"},
+    {"txtDur3rdBrk", "Duration of 3rd break (min.)", "Length of break time"},
+    {"txtDur4thBrk", "Duration of 4th break (min.)", "Length of break time"},
+    {"txtTimeAfter1", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter2", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter3", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter4", "To begin after", "Time after which break may begin in minutes."}};
+
+/// What the label of a box says.
+std::string captionOf(const Form& form, const Control& box) {
+    for (const auto& control : form.controls())
+        if (const auto* label = dynamic_cast<const Label*>(control.get()))
+            if (label->buddy == &box) return label->caption;
+    return "";
+}
+
+TEST_F(RouterWindow, NamesAndExplainsEachParameter) {
+    onPage(0);
+    for (const BoxWords& words : parameterWords) {
+        const Control* box = session.module().find(words.box);
+        ASSERT_NE(box, nullptr) << words.box;
+        EXPECT_EQ(box->tip, words.tip) << words.box;
+        EXPECT_EQ(captionOf(session.module(), *box), words.caption) << words.box;
+    }
+}
+
+TEST_F(RouterWindow, HeadsTheGroupsOfParametersAndItsTables) {
+    const std::vector<std::pair<int, const char*>> headings = {{0, "DEPOT DATA"},
+                                                               {0, "GENERAL DATA"},
+                                                               {0, "LOAD/UNLOAD TIME FORMULA"},
+                                                               {3, "Specified stop-to-stop distances"},
+                                                               {4, "Coordinates for speed zones:"},
+                                                               {6, "Specified stop-to-stop speeds"},
+                                                               {7, "Coordinates for barrier polygons"}};
+    session.play("press cmdData");
+    for (const auto& [page, heading] : headings) {
+        session.play("tab " + std::to_string(page));
+        EXPECT_TRUE(std::ranges::any_of(session.module().controls(), [&](const auto& control) {
+            return control->shown() && control->shownText() == heading;
+        })) << heading;
+    }
+}
+
 TEST_F(RouterWindow, OpensANameThatIsNewWithEmptyTables) {
     session.play("file RTRNEW.dat\npress cmdOpen\npress cmdData\ntab 1");
     EXPECT_EQ(session.grid("GridStops").at(1), "0 |  |  |  |  |  |  |  |  |  |  |  | ");
@@ -243,6 +318,17 @@ TEST_F(RouterWindow, RefusesRowsBeyondEachLimit) {
         EXPECT_EQ(session.play("insert " + grid), "MessageBx " + message + "\n");
         EXPECT_EQ(session.grid(grid).size(), lines + 1);
     }
+}
+
+TEST_F(RouterWindow, TellsOfTheLimitAtEachEnterInTheLastRow) {
+    session.writeFile("RTR02.dat", almostFull());
+    session.play("file RTR02.dat\npress cmdOpen");
+    onPage(1);
+    session.play("insert GridStops\ncurrent GridStops 61 3");
+    for (int time = 1; time <= 2; ++time)
+        EXPECT_EQ(session.play("key GridStops 13"),
+                  "MessageBx \"ROUTER\": \"Too many rows.  Limit is 61\"\n");
+    EXPECT_EQ(session.grid("GridStops").size(), 62U);
 }
 
 TEST_F(RouterWindow, SavesAsManyRowsAsThereAreBeyondTheLimit) {
