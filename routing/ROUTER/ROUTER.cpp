@@ -80,9 +80,9 @@ void ROUTER::addButtons() {
     cmdReport = &addButton("cmdReport", "Re&port", buttonPlace(1, 1), {View::Data}, [this] { showReport(); });
     cmdReport->usable = [this] { return solveStarted_; };
     cmdReport->tip = "Needs the routes of a solution: press Solve.";
-    auto& plotButton = addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); });
+    cmdPlot = &addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); });
     setErrorPlace(*cmdReport, " occurred in ROUTER,cmdReport");
-    setErrorPlace(plotButton, " occurred in cmdPlot of ROUTER");
+    setErrorPlace(*cmdPlot, " occurred in cmdPlot of ROUTER");
     addOutcomeButtons({View::Report}, "cmdPrintRtb");
     cmdContinue->usable = [this] { return reportShown_; };
     seenIn(*find("Image1"), {View::Start, View::Data});
@@ -186,8 +186,8 @@ void ROUTER::solve() {
                                  "1");
         if (answer.empty()) return;
     }
-    if (answer == "2") return specifyRoutes();
-    if (solver.run(job)) plot();
+    const bool hasRoutes = answer == "1" ? solver.run(job) : specifyRoutes();
+    if (hasRoutes) run(*cmdPlot, [this] { plot(); }); // the plot tells of its errors as its own
 }
 
 std::optional<std::string> ROUTER::ask(const std::string& question, const std::string& title,
@@ -197,23 +197,24 @@ std::optional<std::string> ROUTER::ask(const std::string& question, const std::s
     return text;
 }
 
-/// Each route is written as soon as it is known: what is without an answer leaves those before it.
-void ROUTER::specifyRoutes() {
+/// False where a question has no answer. Each route is written as soon as it is known, so that those before
+/// that question are there.
+bool ROUTER::specifyRoutes() {
     const Problem problem = readControls();
     ItemWriter plan;
     const auto save = [&] { writeLines(suite().ioPath(planFile), lines(plan.text())); };
     plan.plain(specifiedRemark).endLine();
     save();
     const auto count = ask("How many routes will there be?", "Specify routes", "Enter number");
-    if (!count) return;
+    if (!count) return false;
     const int routes = toInt32(val(*count));
     for (int r = 1; r <= routes; ++r) {
         const std::optional<PlannedRoute> route = askRoute(r, problem);
-        if (!route) return;
+        if (!route) return false;
         writeRoute(r, *route, plan);
         save();
     }
-    plot();
+    return true;
 }
 
 std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem) {

@@ -1,4 +1,5 @@
 #include <array>
+#include <cmath>
 #include <span>
 #include <vector>
 
@@ -288,12 +289,12 @@ void ROUTER::fillDescription(DataGrid& grid, int row, int col) {
     grid.setCell(row, col + 1, descriptionOf(val(grid.cell(row, col))));
 }
 
-/// Empty for a number that no stop has.
+/// Empty for a number that no stop has. Numbers are rounded as the record rounds them.
 std::string ROUTER::descriptionOf(double stopNumber) const {
-    if (stopNumber == depotNumber) return find("txtDepot")->shownText();
-    for (int n = 1; n <= stops_.count(); ++n)
-        if (n == stopNumber) return stops_.grid().cell(n, 1);
-    return "";
+    const double number = std::nearbyint(stopNumber);
+    if (number == depotNumber) return find("txtDepot")->shownText();
+    if (number < 1 || number > stops_.count()) return "";
+    return stops_.grid().cell(static_cast<int>(number), 1);
 }
 
 void ROUTER::addZones() {

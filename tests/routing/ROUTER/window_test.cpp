@@ -265,6 +265,16 @@ TEST_F(RouterWindow, FillsDescriptionsAsNumbersAreTyped) {
     }
 }
 
+TEST_F(RouterWindow, DescribesTheStopThatANumberIsRoundedTo) {
+    onPage(3);
+    session.play("insert GridDist\ncell GridDist 1 1 1.5\ncell GridDist 1 3 .5");
+    EXPECT_EQ(session.grid("GridDist").at(1), "1 | 1.5 | Quay | .5 | Depot | ");
+    session.play("press cmdContinueDist\nfile RTR02.dat\npress cmdSave");
+    EXPECT_NE(session.readFile("RTR02.dat").find("\r\n1\r\n2,\"Quay\",0,\"Depot\",0\r\n"), std::string::npos);
+    session.play("press cmdData\ncell GridDist 1 1 1E30\ncell GridDist 1 3 -1E30");
+    EXPECT_EQ(session.grid("GridDist").at(1), "1 | 1E30 |  | -1E30 |  | 0");
+}
+
 TEST_F(RouterWindow, FillsNothingIntoAnEmptyTable) {
     onPage(3);
     EXPECT_EQ(session.play("current GridDist 1 1\nkey GridDist 50"),
@@ -603,6 +613,8 @@ TEST_F(RouterWindow, TellsErrorsOfAPlotByItsName) {
     session.writeFile("ROUTE.DAT", "x\n1,1,0,1,900,480\n3\n");
     EXPECT_EQ(session.play("press cmdPlot"),
               "MessageBx \"ROUTER\": \"Subscript out of range occurred in cmdPlot of ROUTER\"\n");
+    EXPECT_EQ(lines(session.play("answer 1\npress cmdSolve")).back(),
+              "MessageBx \"ROUTER\": \"Subscript out of range occurred in cmdPlot of ROUTER\"");
     EXPECT_EQ(session.module().view(), View::Data);
 }
 
