@@ -75,6 +75,7 @@ void ROUTER::seenWhileNotEditing(const std::string& name) {
 void ROUTER::addButtons() {
     addStart("cmdOpen", startPlace, "Label34");
     addDataButtons({.arithmetic = "", .rows = false, .excelPlace = buttonPlace(1, 2)});
+    find("cmdExcel")->tip = "Edit data in an Excel spreadsheet";
     addButton("cmdData", "&Data", buttonPlace(1, 0), {View::Data}, [this] { showEditor(); }).tip =
         "Data editor";
     cmdReport = &addButton("cmdReport", "Re&port", buttonPlace(1, 1), {View::Data}, [this] { showReport(); });

@@ -100,6 +100,10 @@ Place intersection(const Line& way, const Line& edge) {
     return {x, way.yAt(x)};
 }
 
+bool isCrossed(const Edge& edge) {
+    return edge.crossing.has_value();
+}
+
 void markCrossing(Edge& edge, const Line& way, GridScale scale) {
     if (isParallel(way, edge.line)) return;
     const Place place = intersection(way, edge.line);
@@ -111,7 +115,7 @@ void markCrossing(Edge& edge, const Line& way, GridScale scale) {
 /// A way through a corner crosses both edges there; the second one is left out.
 void unmarkCommonCorners(std::array<Edge, edgeCount>& edges) {
     for (std::size_t i = 1; i < edgeCount; ++i)
-        if (edges[i - 1].crossing && edges[i].crossing) edges[i].crossing.reset();
+        if (isCrossed(edges[i - 1]) && isCrossed(edges[i])) edges[i].crossing.reset();
 }
 
 /// The way along the edges from one crossing to a later one.
@@ -125,7 +129,6 @@ double wayRound(const std::array<Edge, edgeCount>& edges, std::size_t from, std:
 }
 
 double shorterDetour(const std::array<Edge, edgeCount>& edges, GridScale scale) {
-    const auto isCrossed = [](const Edge& edge) { return edge.crossing.has_value(); };
     const auto first = std::find_if(edges.begin(), edges.end(), isCrossed);
     const auto second = std::find_if(first + 1, edges.end(), isCrossed);
     double perimeter = 0;
@@ -148,12 +151,11 @@ BarrierEffect barrierEffect(const Barrier& barrier, Place from, Place to, GridSc
     if (!mayMeet(barrier, from, to)) return {};
     const Line way(from, to);
     auto edges = edgesOf(barrier, scale);
-    long crossings = 0;
     for (Edge& edge : edges) {
         if (runsAlong(way, edge.line)) return {};
         markCrossing(edge, way, scale);
-        if (edge.crossing) ++crossings;
     }
+    const auto crossings = std::ranges::count_if(edges, isCrossed);
     if (crossings == 0) return {};
     if (crossings == 1) return {.detour = 0, .endsInside = true};
     if (crossings > 2) unmarkCommonCorners(edges);

@@ -205,6 +205,25 @@ TEST_F(RouterWindow, ShowsTheEditorInPlaceOfTheMainButtons) {
     }
 }
 
+TEST_F(RouterWindow, NamesAndExplainsItsButtons) {
+    const auto expectWords = [this](const std::vector<BoxWords>& buttons) {
+        for (const BoxWords& words : buttons) {
+            EXPECT_EQ(shown(words.box), "visible enabled \"" + std::string(words.caption) + "\"");
+            EXPECT_EQ(session.module().find(words.box)->tip, words.tip) << words.box;
+        }
+    };
+    session.play("answer cancel\npress cmdSolve");
+    expectWords({{"cmdData", "&Data", "Data editor"},
+                 {"cmdReport", "Re&port", "Needs the routes of a solution: press Solve."},
+                 {"cmdExcel", "&Excel edit", "Edit data in an Excel spreadsheet"}});
+    session.play("press cmdPlot");
+    expectWords({{"cmdContinuePlot", "&Continue", ""},
+                 {"cmdZoom", "Zoo&m", "Adjust picture size"},
+                 {"cmdStopId", "Stop &id.", "Show or hide the numbers of the stops"},
+                 {"cmdZonesPlot", "&Zones", "Show or hide the speed zones"},
+                 {"cmdClrRoute", "Clear ro&utes", "Delete the routes"}});
+}
+
 TEST_F(RouterWindow, CapsItsTables) {
     const std::vector<std::pair<const char*, const char*>> headings = {
         {"GridStops",
