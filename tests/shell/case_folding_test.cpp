@@ -78,8 +78,8 @@ TEST(EqualIgnoringCase, GoesBeyondAsciiLetters) {
 }
 
 TEST(EqualIgnoringCase, KnowsLettersThatAreWrittenInFewerBytes) {
-    EXPECT_TRUE(equalIgnoringCase("\u212Ailo\u017F.dat", "kilos.DAT"));
-    EXPECT_FALSE(equalIgnoringCase("\u212Ailo", "kilos"));
+    EXPECT_TRUE(equalIgnoringCase("We\u017Fer.dat", "WESER.DAT"));
+    EXPECT_FALSE(equalIgnoringCase("We\u017F", "Weser"));
 }
 
 } // namespace
