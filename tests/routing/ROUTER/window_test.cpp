@@ -266,6 +266,12 @@ TEST_F(RouterWindow, ChecksTheDepotsZoneOnlySinceAReportOrPlot) {
     EXPECT_EQ(session.play("tab 8"), "");
     session.play("press cmdContinueValid\npress cmdPlot\npress cmdContinuePlot\npress cmdData\ntab 0");
     EXPECT_EQ(session.play("tab 8"), "beep\n");
+    session.play("tab 0\ntype txtZone 0");
+    EXPECT_EQ(session.play("tab 8"), "beep\n");
+    session.writeFile("ROUTE.DAT", plan);
+    session.play("press cmdContinueValid\nanswer cancel\npress cmdSolve\nanswer A\npress cmdReport\n"
+                 "press cmdContinue\npress cmdData\ntab 0");
+    EXPECT_EQ(session.play("tab 8"), "");
 }
 
 TEST_F(RouterWindow, FillsDescriptionsAsNumbersAreTyped) {
@@ -656,6 +662,11 @@ TEST_F(RouterWindow, WarnsOfStopsWithinABarrier) {
     EXPECT_EQ(shown("lblBarrierWarning"),
               "visible enabled \"*** A POINT LIES WITHIN A BARRIER. CORRECT THIS. ***\"");
     EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{});
+    session.play("press cmdContinue");
+    onPage(7);
+    session.play("current GridBar 1 1\npress cmdDelete\npress cmdContinueBar");
+    EXPECT_EQ(session.play("answer A\npress cmdReport"), std::string(labelAsked) + "\"A\"\n");
+    EXPECT_FALSE(visible("lblBarrierWarning"));
 }
 
 TEST_F(RouterWindow, AsksWhetherToPrintThePlot) {
