@@ -43,6 +43,15 @@ constexpr Rect startPlace{1200, 1000, 7200, 5200};
 constexpr Rect surfacePlace{0, 0, 9600, 6780};
 constexpr Rect warningPlace{120, 6480, 9255, 280};
 
+/// The first stops of those that a user has typed.
+std::vector<int> firstStops(const std::string& typed, int count) {
+    checkIndex(count, 0, mostStopsPerRoute);
+    const CountedTable<double> numbers = routing::destring2(typed);
+    std::vector<int> stops;
+    for (int i = 1; i <= count; ++i) stops.push_back(toInt32(numbers(i)));
+    return stops;
+}
+
 void beep(Suite& suite, int times) {
     for (int i = 0; i < times; ++i) suite.platform.display.beep();
 }
@@ -66,14 +75,15 @@ void ROUTER::seenWhileNotEditing(const std::string& name) {
 void ROUTER::addButtons() {
     addStart("cmdOpen", startPlace, "Label34");
     addDataButtons({.arithmetic = "", .rows = false, .excelPlace = buttonPlace(1, 2)});
+    find("cmdExcel")->tip = "Edit data in an Excel spreadsheet";
     addButton("cmdData", "&Data", buttonPlace(1, 0), {View::Data}, [this] { showEditor(); }).tip =
         "Data editor";
     cmdReport = &addButton("cmdReport", "Re&port", buttonPlace(1, 1), {View::Data}, [this] { showReport(); });
     cmdReport->usable = [this] { return solveStarted_; };
     cmdReport->tip = "Needs the routes of a solution: press Solve.";
-    auto& plotButton = addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); });
+    cmdPlot = &addButton("cmdPlot", "P&lot", buttonPlace(0, 4), {View::Data}, [this] { plot(); });
     setErrorPlace(*cmdReport, " occurred in ROUTER,cmdReport");
-    setErrorPlace(plotButton, " occurred in cmdPlot of ROUTER");
+    setErrorPlace(*cmdPlot, " occurred in cmdPlot of ROUTER");
     addOutcomeButtons({View::Report}, "cmdPrintRtb");
     cmdContinue->usable = [this] { return reportShown_; };
     seenIn(*find("Image1"), {View::Start, View::Data});
@@ -177,8 +187,8 @@ void ROUTER::solve() {
                                  "1");
         if (answer.empty()) return;
     }
-    if (answer == "2") return specifyRoutes();
-    if (solver.run(job)) plot();
+    const bool hasRoutes = answer == "1" ? solver.run(job) : specifyRoutes();
+    if (hasRoutes) run(*cmdPlot, [this] { plot(); }); // the plot tells of its errors as its own
 }
 
 std::optional<std::string> ROUTER::ask(const std::string& question, const std::string& title,
@@ -188,31 +198,32 @@ std::optional<std::string> ROUTER::ask(const std::string& question, const std::s
     return text;
 }
 
-/// Each route is written as soon as it is known: what is without an answer leaves those before it.
-void ROUTER::specifyRoutes() {
+/// False where a question has no answer. Each route is written as soon as it is known, so that those before
+/// that question are there.
+bool ROUTER::specifyRoutes() {
     const Problem problem = readControls();
     ItemWriter plan;
     const auto save = [&] { writeLines(suite().ioPath(planFile), lines(plan.text())); };
     plan.plain(specifiedRemark).endLine();
     save();
     const auto count = ask("How many routes will there be?", "Specify routes", "Enter number");
-    if (!count) return;
+    if (!count) return false;
     const int routes = toInt32(val(*count));
     for (int r = 1; r <= routes; ++r) {
         const std::optional<PlannedRoute> route = askRoute(r, problem);
-        if (!route) return;
+        if (!route) return false;
         writeRoute(r, *route, plan);
         save();
     }
-    plot();
+    return true;
 }
 
 std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem) {
-    const std::string which = joined("For route ", number);
-    const auto vehicle = ask(which + ", the vehicle type is?", "Vehicle type", "Enter type");
+    const std::string route = joined("For route ", number);
+    const auto vehicle = ask(route + ", the vehicle type is?", "Vehicle type", "Enter type");
     if (!vehicle) return std::nullopt;
     const auto start =
-        ask(which + ", the route starting time in minutes is?", "Starting time", "Enter time in minutes");
+        ask(route + ", the route starting time in minutes is?", "Starting time", "Enter time in minutes");
     if (!start) return std::nullopt;
     const auto count =
         ask(joined("Number of stops on route ", number) + " is?", "Number of stops", "Enter number of stops");
@@ -220,18 +231,8 @@ std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem)
     const auto stops =
         ask(joined("The stops in sequence for route ", number) + " are?", "Stops", "Enter stops, e.g. 2,3,5");
     if (!stops) return std::nullopt;
-    const int stopCount = toInt32(val(*count));
-    checkIndex(stopCount, 0, mostStopsPerRoute);
-    const CountedTable<double> numbers = routing::destring2(*stops);
-    PlannedRoute route;
-    route.vehicle = toInt32(val(*vehicle));
-    route.start = val(*start);
-    route.weightCapacity = problem.vehicles(route.vehicle).weightCapacity;
-    for (int i = 1; i <= stopCount; ++i) {
-        route.stops.push_back(toInt32(numbers(i)));
-        route.totalWeight = finite(route.totalWeight + problem.stops(route.stops.back()).weight);
-    }
-    return route;
+    return plannedRoute(problem, toInt32(val(*vehicle)), val(*start),
+                        firstStops(*stops, toInt32(val(*count))));
 }
 
 // Report

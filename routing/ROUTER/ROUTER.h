@@ -61,7 +61,7 @@ class ROUTER : public ModuleFrame {
     Problem readControls() const;
     void writeSolverInput();
 
-    void specifyRoutes();
+    bool specifyRoutes();
     std::optional<PlannedRoute> askRoute(int number, const Problem& problem);
     std::optional<std::string> ask(const std::string& question, const std::string& title,
                                    const std::string& answer);
@@ -88,6 +88,7 @@ class ROUTER : public ModuleFrame {
     Sheet<SpecifiedLeg> speeds_;
     Sheet<Barrier> barriers_;
     Button* cmdReport = nullptr;
+    Button* cmdPlot = nullptr;
 
     bool editing_ = false;       // the pages are shown
     bool solveStarted_ = false;  // so that a report may be asked for

@@ -67,6 +67,16 @@ std::array<Edge, edgeCount> edgesOf(const Barrier& barrier, GridScale scale) {
             edge(southeast, northeast)};
 }
 
+/// Whether a way may meet a barrier at all. Most are far from each other, and this is soon known.
+bool mayMeet(const Barrier& barrier, Place from, Place to) {
+    const auto [left, right] =
+        std::minmax({barrier.northwestX, barrier.northeastX, barrier.southwestX, barrier.southeastX});
+    const auto [bottom, top] =
+        std::minmax({barrier.northwestY, barrier.northeastY, barrier.southwestY, barrier.southeastY});
+    return std::max(from.x, to.x) >= left && std::min(from.x, to.x) <= right &&
+           std::max(from.y, to.y) >= bottom && std::min(from.y, to.y) <= top;
+}
+
 /// Both vertical or both horizontal, and on one line.
 bool runsAlong(const Line& way, const Line& edge) {
     if (way.kind != edge.kind) return false;
@@ -90,6 +100,10 @@ Place intersection(const Line& way, const Line& edge) {
     return {x, way.yAt(x)};
 }
 
+bool isCrossed(const Edge& edge) {
+    return edge.crossing.has_value();
+}
+
 void markCrossing(Edge& edge, const Line& way, GridScale scale) {
     if (isParallel(way, edge.line)) return;
     const Place place = intersection(way, edge.line);
@@ -101,7 +115,7 @@ void markCrossing(Edge& edge, const Line& way, GridScale scale) {
 /// A way through a corner crosses both edges there; the second one is left out.
 void unmarkCommonCorners(std::array<Edge, edgeCount>& edges) {
     for (std::size_t i = 1; i < edgeCount; ++i)
-        if (edges[i - 1].crossing && edges[i].crossing) edges[i].crossing.reset();
+        if (isCrossed(edges[i - 1]) && isCrossed(edges[i])) edges[i].crossing.reset();
 }
 
 /// The way along the edges from one crossing to a later one.
@@ -115,7 +129,6 @@ double wayRound(const std::array<Edge, edgeCount>& edges, std::size_t from, std:
 }
 
 double shorterDetour(const std::array<Edge, edgeCount>& edges, GridScale scale) {
-    const auto isCrossed = [](const Edge& edge) { return edge.crossing.has_value(); };
     const auto first = std::find_if(edges.begin(), edges.end(), isCrossed);
     const auto second = std::find_if(first + 1, edges.end(), isCrossed);
     double perimeter = 0;
@@ -135,14 +148,14 @@ double straightDistance(Place a, Place b, GridScale scale) {
 }
 
 BarrierEffect barrierEffect(const Barrier& barrier, Place from, Place to, GridScale scale) {
+    if (!mayMeet(barrier, from, to)) return {};
     const Line way(from, to);
     auto edges = edgesOf(barrier, scale);
-    long crossings = 0;
     for (Edge& edge : edges) {
         if (runsAlong(way, edge.line)) return {};
         markCrossing(edge, way, scale);
-        if (edge.crossing) ++crossings;
     }
+    const auto crossings = std::ranges::count_if(edges, isCrossed);
     if (crossings == 0) return {};
     if (crossings == 1) return {.detour = 0, .endsInside = true};
     if (crossings > 2) unmarkCommonCorners(edges);

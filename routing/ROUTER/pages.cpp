@@ -1,4 +1,5 @@
 #include <array>
+#include <cmath>
 #include <span>
 #include <vector>
 
@@ -80,8 +81,7 @@ constexpr std::array<FieldWords, 7> depotFields = {
 constexpr std::array<FieldWords, 5> routeFields = {
     {{"txtPercntPickup", "Percent of vehicle in use before allowing pickups",
       "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point on "
-      "route "
-      "regardless of remaining load on vehicle.  "},
+      "route regardless of remaining load on vehicle.  "},
      {"txtXScaleFactor", "Horizontal scaling factor",
       "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor."},
      {"txtYScaleFactor", "Vertical scaling factor",
@@ -212,8 +212,8 @@ GridRows& ROUTER::addSheet(const std::string& name, int page, int limit, const R
     grid.page = page;
     Seen(grid).when([this] { return editing_; });
     grid.onKey = [&rows, &grid](int code) {
-        if (code != keys::enter || grid.rowCount() == 0 || grid.row() < grid.rowCount())
-            return rows.keyPress(code);
+        const int lastRow = grid.rows() - 1;
+        if (code != keys::enter || grid.rowCount() == 0 || grid.row() < lastRow) return rows.keyPress(code);
         rows.insertKey();
         grid.setCurrent(grid.rows() - 1, 1);
     };
@@ -289,12 +289,12 @@ void ROUTER::fillDescription(DataGrid& grid, int row, int col) {
     grid.setCell(row, col + 1, descriptionOf(val(grid.cell(row, col))));
 }
 
-/// Empty for a number that no stop has.
+/// Empty for a number that no stop has. Numbers are rounded as the record rounds them.
 std::string ROUTER::descriptionOf(double stopNumber) const {
-    if (stopNumber == depotNumber) return find("txtDepot")->shownText();
-    for (int n = 1; n <= stops_.count(); ++n)
-        if (n == stopNumber) return stops_.grid().cell(n, 1);
-    return "";
+    const double number = std::nearbyint(stopNumber);
+    if (number == depotNumber) return find("txtDepot")->shownText();
+    if (number < 1 || number > stops_.count()) return "";
+    return stops_.grid().cell(static_cast<int>(number), 1);
 }
 
 void ROUTER::addZones() {

@@ -28,6 +28,16 @@ std::vector<int> readStops(ItemReader& reader, int count) {
 
 } // namespace
 
+PlannedRoute plannedRoute(const Problem& problem, int vehicle, double start, std::vector<int> stops) {
+    PlannedRoute route;
+    route.vehicle = vehicle;
+    route.weightCapacity = problem.vehicles(vehicle).weightCapacity;
+    route.start = start;
+    for (const int stop : stops) route.totalWeight = finite(route.totalWeight + problem.stops(stop).weight);
+    route.stops = std::move(stops);
+    return route;
+}
+
 Plan readPlan(ItemReader& reader) {
     Plan plan;
     plan.remark = reader.readString();

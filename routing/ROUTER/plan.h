@@ -29,6 +29,11 @@ struct PlannedRoute {
     int stopCount() const { return static_cast<int>(stops.size()); }
 };
 
+/// A route of these stops, its weight and its capacity from the problem. SubscriptOutOfRange for a vehicle or
+/// a stop that isn't there, Overflow where the weights have no sum.
+PlannedRoute plannedRoute(const Problem& problem, int vehicle, double start, std::vector<int> stops);
+
+/// A numbered list of routes.
 struct Plan {
     std::string remark; ///< where the plan comes from; nothing reads it
     int routeCount = 0; ///< the number of the last route

@@ -363,16 +363,16 @@ void Report::printTimeAndDistance(int r) {
     };
     page_.text("Route time:").tab(34).text("Distance:").endLine();
     time("  Driving", route.runTime).text(" hr    ");
-    distance(35, "To 1st stop", first).text(" mi").endLine();
-    time("  Load/unload", route.stopTime);
-    distance(35, "From last stop", last).endLine();
-    time("  Break", route.breakTime);
-    distance(35, "On route", route.distance - first - last).endLine();
-    time("    Total", route.totalTime()).text(" hr ");
+    distance(35, "To 1st stop      ", first).text(" mi").endLine();
+    time("  Load/unload        ", route.stopTime);
+    distance(35, "From last stop   ", last).endLine();
+    time("  Break              ", route.breakTime);
+    distance(35, "On route         ", route.distance - first - last).endLine();
+    time("    Total            ", route.totalTime()).text(" hr ");
     distance(37, "Total", route.distance).text(" mi").endLine();
     page_.line("");
-    time("  Max allowed", problem_.maxTime).text(" hr ");
-    distance(35, "Max allowed", problem_.maxDistance).text(" mi").endLine();
+    time("  Max allowed        ", problem_.maxTime).text(" hr ");
+    distance(35, "Max allowed      ", problem_.maxDistance).text(" mi").endLine();
     page_.line("");
 }
 

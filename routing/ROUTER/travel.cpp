@@ -1,8 +1,8 @@
 #include "routing/ROUTER/travel.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
+#include <map>
+#include <utility>
 
 #include "shell/base/arithmetic.h"
 
@@ -35,14 +35,17 @@ Leg measuredLeg(const Problem& problem, Place from, Place to) {
     return leg;
 }
 
-/// The speed between two zones, either way; the default where none is given.
-double zoneSpeed(const Problem& problem, double from, double to) {
-    const auto joins = [from, to](const ZoneSpeed& row) {
-        return (row.origin == from && row.destination == to) || (row.origin == to && row.destination == from);
-    };
-    const auto rows = problem.zoneSpeeds.span();
-    const auto row = std::find_if(rows.begin(), rows.end(), joins);
-    return row == rows.end() ? problem.defaultSpeed : row->speed;
+/// Speeds by the numbers of two zones.
+using ZoneSpeeds = std::map<std::pair<double, double>, double>;
+
+/// The speeds between zones, either way. Of several rows for the same zones the first one counts.
+ZoneSpeeds zoneSpeeds(const Problem& problem) {
+    ZoneSpeeds speeds;
+    for (const ZoneSpeed& row : problem.zoneSpeeds.span()) {
+        speeds.emplace(std::pair(row.origin, row.destination), row.speed);
+        speeds.emplace(std::pair(row.destination, row.origin), row.speed);
+    }
+    return speeds;
 }
 
 } // namespace
@@ -56,10 +59,7 @@ Travel::Travel(const Problem& problem) : last_(problem.stops.count()) {
 }
 
 const Leg& Travel::leg(int from, int to) const {
-    checkIndex(from, 0, last_);
-    checkIndex(to, 0, last_);
-    const Leg& leg = legs_[static_cast<std::size_t>(from) * static_cast<std::size_t>(last_ + 1) +
-                           static_cast<std::size_t>(to)];
+    const Leg& leg = legs_[place(from, to)];
     finite(leg.distance);
     return leg;
 }
@@ -68,19 +68,24 @@ double Travel::hours(const Leg& leg) {
     return divide(leg.distance, leg.speed);
 }
 
-Leg& Travel::at(int from, int to) {
-    return legs_[static_cast<std::size_t>(from) * static_cast<std::size_t>(last_ + 1) +
-                 static_cast<std::size_t>(to)];
+std::size_t Travel::place(int from, int to) const {
+    checkIndex(from, depotNumber, last_);
+    checkIndex(to, depotNumber, last_);
+    return static_cast<std::size_t>(from) * static_cast<std::size_t>(last_ + 1) +
+           static_cast<std::size_t>(to);
 }
 
 void Travel::measure(const Problem& problem) {
     const std::vector<Stop> stops = allStops(problem);
-    for (int from = 0; from <= last_; ++from) {
+    const ZoneSpeeds speeds = zoneSpeeds(problem);
+    for (int from = depotNumber; from <= last_; ++from) {
         const Stop& origin = stops[static_cast<std::size_t>(from)];
-        for (int to = 0; to <= last_; ++to) {
+        for (int to = depotNumber; to <= last_; ++to) {
             const Stop& destination = stops[static_cast<std::size_t>(to)];
-            at(from, to) = measuredLeg(problem, {origin.x, origin.y}, {destination.x, destination.y});
-            at(from, to).speed = zoneSpeed(problem, origin.zone, destination.zone);
+            Leg& leg = at(from, to);
+            leg = measuredLeg(problem, {origin.x, origin.y}, {destination.x, destination.y});
+            const auto speed = speeds.find({origin.zone, destination.zone});
+            leg.speed = speed == speeds.end() ? problem.defaultSpeed : speed->second;
         }
     }
 }

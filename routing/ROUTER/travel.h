@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "routing/ROUTER/detour.h"
@@ -31,7 +32,8 @@ class Travel {
     static double hours(const Leg& leg);
 
   private:
-    Leg& at(int from, int to);
+    std::size_t place(int from, int to) const;
+    Leg& at(int from, int to) { return legs_[place(from, to)]; }
     void measure(const Problem& problem);
     void specifyDistances(const Problem& problem);
     void specifySpeeds(const Problem& problem);

@@ -181,7 +181,15 @@ std::string caseFolded(std::string_view text) {
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return caseFolded(a) == caseFolded(b);
+    // Controls and files are found by name among many: nearly always the first letters tell the difference.
+    while (!a.empty() && !b.empty()) {
+        const std::string_view first = a.substr(0, step(a, 0));
+        const std::string_view other = b.substr(0, step(b, 0));
+        if (first != other && caseFolded(first) != caseFolded(other)) return false;
+        a.remove_prefix(first.size());
+        b.remove_prefix(other.size());
+    }
+    return a.empty() && b.empty();
 }
 
 std::vector<std::string> lines(std::string_view text) {

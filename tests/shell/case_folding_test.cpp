@@ -73,6 +73,13 @@ TEST(EqualIgnoringCase, GoesBeyondAsciiLetters) {
     EXPECT_FALSE(equalIgnoringCase("u", "\u00FC"));
     EXPECT_FALSE(equalIgnoringCase("\xFE", "\xFF"));
     EXPECT_FALSE(equalIgnoringCase("a", "ab"));
+    EXPECT_FALSE(equalIgnoringCase("ab", "a"));
+    EXPECT_TRUE(equalIgnoringCase("", ""));
+}
+
+TEST(EqualIgnoringCase, KnowsLettersThatAreWrittenInFewerBytes) {
+    EXPECT_TRUE(equalIgnoringCase("We\u017Fer.dat", "WESER.DAT"));
+    EXPECT_FALSE(equalIgnoringCase("We\u017F", "Weser"));
 }
 
 } // namespace

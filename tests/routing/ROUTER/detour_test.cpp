@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "routing/ROUTER/detour.h"
@@ -79,6 +80,16 @@ TEST(BarrierEffect, TellsOfAnEndWithin) {
         EXPECT_EQ(effect.detour, 0);
     }
     EXPECT_FALSE(barrierEffect(block, {15, 15}, {25, 16}, plain).endsInside); // both are
+}
+
+TEST(BarrierEffect, TellsOfAnEndOnAnEdge) {
+    for (const Place outside : {Place{0, 15}, Place{20, 0}, Place{40, 16}, Place{21, 40}}) {
+        const Place edge{std::clamp(outside.x, 10.0, 30.0), std::clamp(outside.y, 10.0, 20.0)};
+        EXPECT_TRUE(barrierEffect(block, outside, edge, plain).endsInside);
+        EXPECT_TRUE(barrierEffect(block, edge, outside, plain).endsInside);
+        const Place before{(outside.x + 3 * edge.x) / 4, (outside.y + 3 * edge.y) / 4};
+        EXPECT_FALSE(barrierEffect(block, outside, before, plain).endsInside);
+    }
 }
 
 TEST(BarrierEffect, KnowsSlopedBarriers) {

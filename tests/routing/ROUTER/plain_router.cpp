@@ -581,13 +581,15 @@ class PlainRouter {
         const double first = route.stops.front().distance;
         const double last = route.stops.back().distance;
         paper_.line("Route time:                      Distance:");
-        timeAndDistance("  Driving", route.run, " hr    To 1st stop", first, " mi");
-        timeAndDistance("  Load/unload", route.stopTime, "       From last stop", last, "");
-        timeAndDistance("  Break", route.breakTime, "       On route", route.distance - first - last, "");
-        timeAndDistance("    Total", route.run + route.stopTime + route.breakTime, " hr      Total",
-                        route.distance, " mi");
+        timeAndDistance("  Driving", route.run, " hr    To 1st stop      ", first, " mi");
+        timeAndDistance("  Load/unload        ", route.stopTime, "       From last stop   ", last, "");
+        timeAndDistance("  Break              ", route.breakTime, "       On route         ",
+                        route.distance - first - last, "");
+        timeAndDistance("    Total            ", route.run + route.stopTime + route.breakTime,
+                        " hr      Total", route.distance, " mi");
         paper_.line("");
-        timeAndDistance("  Max allowed", problem_.maxTime, " hr    Max allowed", problem_.maxDistance, " mi");
+        timeAndDistance("  Max allowed        ", problem_.maxTime, " hr    Max allowed      ",
+                        problem_.maxDistance, " mi");
         paper_.line("");
         paper_.line("Route costs:");
         const auto cost = [this](const char* what, double dollars, const char* mask) {

@@ -35,6 +35,24 @@ TEST(PlanFile, IsWrittenAsItWasRead) {
     EXPECT_EQ(writer.text(), sample);
 }
 
+TEST(PlannedRoute, WeighsItsStops) {
+    Problem problem;
+    for (const double weight : {100.0, 20.5, 3.0}) {
+        problem.stops.add({});
+        problem.stops(problem.stops.count()).weight = weight;
+        problem.vehicles.add({});
+        problem.vehicles(problem.vehicles.count()).weightCapacity = 10 * weight;
+    }
+    const PlannedRoute route = plannedRoute(problem, 2, 480, {3, 1});
+    EXPECT_EQ(route.totalWeight, 103);
+    EXPECT_EQ(route.vehicle, 2);
+    EXPECT_EQ(route.weightCapacity, 205);
+    EXPECT_EQ(route.start, 480);
+    EXPECT_EQ(route.stops, (std::vector<int>{3, 1}));
+    EXPECT_EQ(errorOf([&] { plannedRoute(problem, 4, 480, {}); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { plannedRoute(problem, 1, 480, {4}); }), ErrorNumber::SubscriptOutOfRange);
+}
+
 TEST(PlanFile, MayHoldNoRoute) {
     EXPECT_EQ(readFrom("\"computed\"\r\n").routeCount, 0);
     EXPECT_EQ(errorOf([] { readFrom(""); }), ErrorNumber::InputPastEnd);

@@ -105,6 +105,29 @@ TEST(PlanMap, NumbersTheStops) {
     EXPECT_TRUE(only<SurfaceText>(drawn(mapOf("SW"), {})).empty());
 }
 
+TEST(PlanMap, GrowsWithTheScreen) {
+    PictureSurface surface("picOut", place, {2, 3});
+    PlanMap(mapOf("SW"), planOf({1}))
+        .draw(surface, {2, 3}, {.zoom = 1}, {.numbers = true, .zones = true, .warning = true});
+    const auto& operations = surface.operations();
+    const double half = 16 / 2.4;
+    EXPECT_EQ(only<SurfaceBox>(operations),
+              (std::vector<SurfaceBox>{
+                  {208, 468, 408, 618, colour::brightWhite, true},
+                  {208, 468, 408, 618, colour::lightBlue, false},
+                  {8 - 2 * half, 1368 - 3 * half, 8 + 2 * half, 1368 + 3 * half, colour::lightBlue, true}}));
+    EXPECT_EQ(only<SurfaceCircle>(operations),
+              (std::vector<SurfaceCircle>{{1272, 1368, 6, colour::lightRed, true},
+                                          {8, 24, 6, colour::lightRed, true}}));
+    EXPECT_EQ(only<SurfaceLine>(operations).at(0), black(8, 1368, 1272, 1368));
+    EXPECT_EQ(only<SurfaceText>(operations),
+              (std::vector<SurfaceText>{
+                  {4, 6, pointInBarrierWarning, {"Arial", 20, true}, colour::lightRed},
+                  {8 + 2 * (half + 2), 1368 - 30, "Depot", {"Arial", 16, false}, colour::black},
+                  {1272 + 2 * 5, 1368 - 30, "1", {"Arial", 16, false}, colour::black},
+                  {8 + 2 * 5, 24 - 30, "2", {"Arial", 16, false}, colour::black}}));
+}
+
 TEST(PlanMap, GivesAllPointsOneScale) {
     Problem problem = mapOf("SW");
     problem.stops(1).x = 0;

@@ -1,7 +1,9 @@
 #include "tests/routing/ROUTER/random_problems.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <numeric>
+#include <utility>
 
 namespace vantore::router::tests {
 
@@ -86,16 +88,31 @@ Problem RandomProblems::next(int stopCount) {
     return problem;
 }
 
-PlannedRoute RandomProblems::route(const Problem& problem) {
+std::vector<int> RandomProblems::shuffledStops(const Problem& problem) {
     std::vector<int> stops(static_cast<std::size_t>(problem.stops.count()));
     std::iota(stops.begin(), stops.end(), 1);
     std::shuffle(stops.begin(), stops.end(), random_);
+    return stops;
+}
+
+PlannedRoute RandomProblems::route(const Problem& problem) {
+    std::vector<int> stops = shuffledStops(problem);
     stops.resize(static_cast<std::size_t>(from(1, problem.stops.count())));
-    PlannedRoute route;
-    route.vehicle = from(1, problem.vehicles.count());
-    route.start = from(0, 900);
-    route.stops = stops;
-    return route;
+    const int vehicle = from(1, problem.vehicles.count());
+    return plannedRoute(problem, vehicle, from(0, 900), std::move(stops));
+}
+
+Plan RandomProblems::plan(const Problem& problem) {
+    const std::vector<int> stops = shuffledStops(problem);
+    Plan plan;
+    const int longest = oneIn(5) ? mostStops : 1 + from(0, 7);
+    for (auto next = stops.begin(); next != stops.end();) {
+        const auto end = next + std::min<std::ptrdiff_t>(from(1, longest), stops.end() - next);
+        const int vehicle = from(1, problem.vehicles.count());
+        plan.routes(++plan.routeCount) = plannedRoute(problem, vehicle, from(-100, 4000) / 2.0, {next, end});
+        next = end;
+    }
+    return plan;
 }
 
 } // namespace vantore::router::tests

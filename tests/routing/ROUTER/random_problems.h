@@ -19,12 +19,16 @@ class RandomProblems {
     /// A route of some of the stops in any order.
     PlannedRoute route(const Problem& problem);
 
+    /// Routes that serve each stop once, in any order.
+    Plan plan(const Problem& problem);
+
     int from(int low, int high) {
         return low + static_cast<int>(random_() % static_cast<unsigned>(high - low + 1));
     }
     bool oneIn(int chances) { return from(1, chances) == 1; }
 
   private:
+    std::vector<int> shuffledStops(const Problem& problem);
     Stop stop();
     Vehicle vehicle();
     Barrier barrier();

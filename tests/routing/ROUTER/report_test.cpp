@@ -8,6 +8,7 @@
 #include "routing/ROUTER/report.h"
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
+#include "tests/routing/ROUTER/random_problems.h"
 #include "tests/support/error_of.h"
 
 namespace vantore::router {
@@ -124,13 +125,44 @@ TEST(RoutingReport, LinesUpARouteOfSixtyOneStops) {
     EXPECT_TRUE(lines[volumes + 62].starts_with("Totals Weight: Del = "));
 }
 
-TEST(RoutingReport, TotalsAreTheSumsOfTheirRows) {
-    const Lines lines = reportOf(roadOf(20), oneStopRoutes(20));
-    const std::size_t costs = lineOf(lines, "  no     cost,$") + 1;
-    for (const std::size_t end : {15U, 24U, 33U, 42U, 51U, 60U, 69U}) {
+/// The figure of a line that ends in a column (from 1).
+double figureAt(const std::string& line, std::size_t end) {
+    EXPECT_GE(line.size(), end) << line;
+    const std::string upTo = line.substr(0, end);
+    return val(upTo.substr(upTo.find_last_of(' ') + 1));
+}
+
+/// A column of figures, and by how much a rounded one may be off.
+struct Summed {
+    std::size_t end;
+    double half;
+};
+
+/// The line behind the rows, the first of which is `first`, has the sums of their columns.
+void expectSums(const Lines& lines, std::size_t first, int rows, const std::vector<Summed>& columns) {
+    const std::size_t total = first + static_cast<std::size_t>(rows);
+    ASSERT_LT(total, lines.size());
+    ASSERT_TRUE(lines[total].starts_with("Total")) << lines[total];
+    for (const Summed& column : columns) {
         double sum = 0;
-        for (std::size_t i = costs; i < costs + 20; ++i) sum += val(lines[i].substr(end - 9, 9));
-        EXPECT_NEAR(sum, val(lines[costs + 20].substr(end - 9, 9)), 20 * .005) << end;
+        for (std::size_t i = first; i < total; ++i) sum += figureAt(lines[i], column.end);
+        ASSERT_NEAR(figureAt(lines[total], column.end), sum, (rows + 1) * column.half + 1E-9)
+            << column.end << ": " << lines[total];
+    }
+}
+
+TEST(RoutingReport, TotalsAreTheSumsOfTheirRows) {
+    tests::RandomProblems problems(316);
+    for (int trial = 0; trial < 200; ++trial) {
+        const Problem problem = problems.next(problems.from(1, 40));
+        const Plan plan = problems.plan(problem);
+        const Lines lines = reportOf(problem, plan);
+        expectSums(lines, lineOf(lines, "  no      hr") + 1, plan.routeCount,
+                   {{12, .05}, {18, .05}, {24, .05}, {30, .05}, {36, .05}, {58, 0}, {66, .5}, {76, .005}});
+        expectSums(lines, lineOf(lines, "  no  typ") + 1, plan.routeCount,
+                   {{16, 0}, {23, 0}, {30, 0}, {44, 0}, {51, 0}, {58, 0}});
+        expectSums(lines, lineOf(lines, "  no     cost,$") + 1, plan.routeCount,
+                   {{15, .005}, {24, .005}, {33, .005}, {42, .005}, {51, .005}, {60, .005}, {69, .005}});
     }
 }
 
@@ -145,6 +177,33 @@ TEST(RoutingReport, ShowsAKnownRoute) {
     EXPECT_EQ(lines[schedule], "  1 Customer number 08:03AM   1 08:09AM   1    6     3.0        3  YES");
     EXPECT_EQ(lines[schedule + 2], "   Depot            08:24AM   1 -------  --  ---     6.0        6");
     EXPECT_EQ(std::ranges::count(lines, "VIOLATIONS"), 0);
+}
+
+TEST(RoutingReport, SumsUpARoute) {
+    Problem problem = roadOf(2);
+    problem.maxTime = 9999;
+    problem.maxDistance = 123456;
+    const Lines lines = reportOf(problem, oneRoute(2));
+    const std::size_t first = lineOf(lines, "Route time:");
+    EXPECT_EQ(Lines(lines.begin() + static_cast<std::ptrdiff_t>(first), lines.end()),
+              (Lines{"Route time:                      Distance:",
+                     "  Driving                .2 hr    To 1st stop                    3 mi",
+                     "  Load/unload            .2       From last stop                 6",
+                     "  Break                  .0       On route                       3",
+                     "    Total                .4 hr      Total                       12 mi", "",
+                     "  Max allowed        9999.0 hr    Max allowed               123456 mi", "",
+                     "Route costs:", "  Driver (reg time)         $4.00", "  Driver (over time)          .00",
+                     "  Vehicle (mileage)          6.00", "  Fixed                      1.00",
+                     "               Total       $11.00"}));
+}
+
+TEST(RoutingReport, PutsHoursThatReachIntoTheirCaptionOnALineOfTheirOwn) {
+    Problem problem = roadOf(1);
+    problem.maxTime = 10000;
+    const Lines lines = reportOf(problem, oneRoute(1));
+    const std::size_t line = lineOf(lines, "  Max allowed");
+    EXPECT_EQ(lines[line], "  Max allowed        ");
+    EXPECT_EQ(lines[line + 1], "                    10000.0 hr    Max allowed                 9999 mi");
 }
 
 TEST(RoutingReport, CutsTheLabelBehindFiftyCharacters) {
@@ -211,30 +270,99 @@ TEST(RoutingReport, WantsAStopOnEachRoute) {
     EXPECT_EQ(errorOf([&] { reportOf(roadOf(1), plan); }), ErrorNumber::SubscriptOutOfRange);
 }
 
-TEST(PrintedData, FollowsItsHeadings) {
-    Problem problem = roadOf(1);
-    problem.vehicles = {};
+/// A problem with other figures in all its places.
+Problem variedProblem() {
+    Problem problem;
+    problem.label = "Round";
+    problem.corner = "NE";
+    problem.depotDescription = "Yard";
+    problem.depotZone = 1;
+    problem.depotX = 2;
+    problem.depotY = 3;
+    problem.earliestStart = 4;
+    problem.latestReturn = 5;
+    problem.defaultSpeed = 6;
+    problem.overtimeAfter = 7;
+    problem.pickupPercent = 8;
+    problem.horizontalScale = 9.5;
+    problem.verticalScale = .25;
+    problem.maxTime = 11;
+    problem.maxDistance = 12;
+    problem.fixedStopTime = 13;
+    problem.timePerWeight = .014;
+    problem.timePerCube = .15;
+    for (int k = 1; k <= breakCount; ++k) problem.breaks(k) = {10.0 + k, 100.0 * k};
+    problem.stops.add({"Customer number one", "Delivered", 16, 17.5, 18, 19.125, 2, 21, 22, 23, 24, 10080});
     problem.vehicles.add({"Van", 7, 12, 28000, 3200, 30, .415, 60.5, 14.5, 21.75});
-    problem.distances.add({0, "Yard", 1, "Customer number 1", 1234.5});
+    problem.distances.add({0, "Yard", 1, "Customer number one", 1234.5});
     problem.zones.add({-5, 5.25, 6, -6});
     problem.zoneSpeeds.add({1, 2, 22.5});
+    problem.speeds.add({1, "Customer number one", 0, "Yard", 33});
     problem.barriers.add({1, 2, 3, 4, 5, 6, 7, 8});
-    const Lines lines = dataPage(problem).lines();
-    EXPECT_EQ(lines[0], "                         --PARAMETERS AND LABELS--");
-    EXPECT_EQ(lines[1], "Problem label - Enter label");
-    EXPECT_EQ(lines[lineOf(lines, "DEPOT DATA") + 1], "Depot description - Yard  Located in zone - 0");
-    EXPECT_EQ(lines[lineOf(lines, "Duration of 4th")],
-              "Duration of 4th break (minutes) - 0  To begin after - 9999");
-    EXPECT_EQ(lines[lineOf(lines, "NO. DESCRIPTION     TY") + 1],
-              "  1 Customer number D     10      1    3.00     .00  0    0    0 9999    0    0");
-    EXPECT_EQ(lines[lineOf(lines, "NO. DESCRIPTION      TP") + 1],
-              "  1 Van               7  12  28000   3200   30.00    .42   60.50  14.50  21.75");
-    EXPECT_EQ(lines[lineOf(lines, "NO.  NO DESCRIPTION----  NO DESCRIPTION---- IN MILES") + 1],
-              "  1   0 Yard              1 Customer number  1234.50");
-    EXPECT_EQ(lines[lineOf(lines, "NO.    LEFT") + 1], "  1   -5.00    5.25    6.00   -6.00");
-    EXPECT_EQ(lines[lineOf(lines, "NO.   ZONE") + 1], "  1      1           2   22.5");
-    EXPECT_EQ(lines[lineOf(lines, "NO. HORIZTL") + 1],
-              "  1    1.00    2.00    3.00    4.00    5.00    6.00    7.00    8.00");
+    return problem;
+}
+
+TEST(PrintedData, FollowsItsHeadings) {
+    EXPECT_EQ(dataPage(variedProblem()).lines(),
+              (Lines{"                         --PARAMETERS AND LABELS--",
+                     "Problem label - Round",
+                     "Grid corner with 0,0 coordinates (NW, SW, SE, or NE) - NE",
+                     "DEPOT DATA",
+                     "Depot description - Yard  Located in zone - 1",
+                     "Horizontal coordinate - 2  Vertical coordinate - 3",
+                     "Earliest starting time (min) - 4  Latest return time (min) - 5",
+                     "Default vehicle speed (miles per hour) - 6",
+                     "After how many clock hours will overtime begin - 7",
+                     "GENERAL DATA",
+                     "Percent of vehicle in use before allowing pickups - 8",
+                     "Horizontal scaling factor - 9.5  Vertical scaling factor - .25",
+                     "Maximum TIME allowed on a route (hours) - 11",
+                     "Maximum DISTANCE allowed on a route (miles) - 12",
+                     "LOAD/UNLOAD TIME FORMULA",
+                     "Fixed time per stop - 13",
+                     "Variable time per stop by weight - .014  By cube - .15",
+                     "BREAK TIMES",
+                     "Duration of 1st break (minutes) - 11  To begin after - 100",
+                     "Duration of 2nd break (minutes) - 12  To begin after - 200",
+                     "Duration of 3rd break (minutes) - 13  To begin after - 300",
+                     "Duration of 4th break (minutes) - 14  To begin after - 400",
+                     "",
+                     "                            --STOP DATA--",
+                     "    STOP                LOAD VOLUME   -COORDINATES-    LOAD ---TIME WINDOWS----",
+                     "NO. DESCRIPTION     TY  WGHT   CUBE    HCRD    VCRD ZN TIME BEG1 END1 BEG2 END2",
+                     "  1 Customer number De    16     18   18.00   19.13  2   21   22   23   2410080",
+                     "",
+                     "                          --VEHICLE DATA--",
+                     "                                          ---VEHICLE---  ----DRIVER----   OVER",
+                     "    VEHICLE                 --CAPACITY---   FIXED PER MI   FIXED PER HR   TIME",
+                     "NO. DESCRIPTION      TP  NO WEIGHT   CUBE    COST   COST    COST   COST   COST",
+                     "  1 Van               7  12  28000   3200   30.00    .42   60.50  14.50  21.75",
+                     "",
+                     "                 --SPECIFIED STOP-TO-STOP DISTANCES--",
+                     "        STOP                STOP            DISTANCE",
+                     "NO.  NO DESCRIPTION----  NO DESCRIPTION---- IN MILES",
+                     "  1   0 Yard              1 Customer number  1234.50",
+                     "",
+                     "                     --SPEED ZONES DEFINITION--",
+                     "    -----------COORDINATES---------",
+                     "NO.    LEFT   RIGHT     TOP  BOTTOM",
+                     "  1   -5.00    5.25    6.00   -6.00",
+                     "",
+                     "                       --ZONE-TO-ZONE SPEEDS--",
+                     "    ORIGIN DESTINATION  SPEED",
+                     "NO.   ZONE        ZONE    MPH",
+                     "  1      1           2   22.5",
+                     "",
+                     "                   --SPECIFIED STOP-TO-STOP SPEEDS--",
+                     "        STOP                STOP            SPEED",
+                     "NO.  NO DESCRIPTION----  NO DESCRIPTION---- IN MPH",
+                     "  1   1 Customer number   0 Yard             33.00",
+                     "",
+                     "                         --BARRIERS DEFINITION--",
+                     "    ---NORTHWEST--- ---NORTHEAST--- ---SOUTHWEST--- ---SOUTHEAST---",
+                     "    --COORDINATES-- --COORDINATES-- --COORDINATES-- --COORDINATES--",
+                     "NO. HORIZTL VERTICL HORIZTL VERTICL HORIZTL VERTICL HORIZTL VERTICL",
+                     "  1    1.00    2.00    3.00    4.00    5.00    6.00    7.00    8.00"}));
 }
 
 } // namespace

@@ -66,20 +66,6 @@ class Row : public testing::Test {
         return stops;
     }
 
-    void edit(int stop, const std::function<void(Stop&)>& change) {
-        CountedTable<Stop> stops;
-        for (int i = 1; i <= problem_.stops.count(); ++i) {
-            stops.add(problem_.stops(i));
-            if (i != stop) continue;
-            Stop changed = problem_.stops(i);
-            change(changed);
-            stops = {};
-            for (int k = 1; k < i; ++k) stops.add(problem_.stops(k));
-            stops.add(changed);
-        }
-        problem_.stops = stops;
-    }
-
     Problem problem_;
     PlannedRoute route_;
 };
@@ -148,7 +134,7 @@ TEST_F(Row, TimesAStopByItsLoadUnlessItHasATimeOfItsOwn) {
     problem_.timePerWeight = .1;
     problem_.timePerCube = .5;
     EXPECT_EQ(stopMinutes(problem_, problem_.stops(1)), 6);
-    edit(1, [](Stop& stop) { stop.loadTime = -4; });
+    problem_.stops(1).loadTime = -4;
     EXPECT_DOUBLE_EQ(stopMinutes(problem_, problem_.stops(1)), 3 + 10 + 5);
     EXPECT_DOUBLE_EQ(simulated().visits[0].departure, 518);
 }
@@ -186,12 +172,11 @@ TEST_F(Row, TakesSeveralBreaksAtOnceEachAfterTheOneBefore) {
 
 TEST_F(Row, TestsEachArrivalAgainstBothWindows) {
     const auto hours = [this](double begin1, double end1, double begin2, double end2) {
-        edit(2, [=](Stop& stop) {
-            stop.begin1 = begin1;
-            stop.end1 = end1;
-            stop.begin2 = begin2;
-            stop.end2 = end2;
-        });
+        Stop& stop = problem_.stops(2);
+        stop.begin1 = begin1;
+        stop.end1 = end1;
+        stop.begin2 = begin2;
+        stop.end2 = end2;
         const SimulatedRoute route = simulated();
         EXPECT_EQ(route.violations.timeWindows, !route.visits[1].isInWindow);
         EXPECT_TRUE(route.visits[0].isInWindow && route.visits[2].isInWindow && route.visits[3].isInWindow);
@@ -229,14 +214,12 @@ TEST_F(Row, FlagsALimitOnlyWhereItIsExceeded) {
     problem_.maxDistance = 79;
     EXPECT_EQ(flags(), "---4--");
     problem_.maxDistance = 9999;
-    edit(3, [](Stop& stop) { stop.weight = 31; });
+    problem_.stops(3).weight = 31;
     EXPECT_EQ(flags(), "----5-");
-    edit(3, [](Stop& stop) {
-        stop.weight = 30;
-        stop.cube = 4;
-    });
+    problem_.stops(3).weight = 30;
+    problem_.stops(3).cube = 4;
     EXPECT_EQ(flags(), "-----6");
-    edit(2, [](Stop& stop) { stop.weight = 500; }); // what is picked up isn't flagged
+    problem_.stops(2).weight = 500; // what is picked up isn't flagged
     EXPECT_EQ(flags(), "-----6");
 }
 
@@ -289,11 +272,9 @@ TEST_F(Row, FailsWhereASpeedIsZeroOrAFigureHasNoBounds) {
     EXPECT_EQ(errorOf([this] { simulated(); }), ErrorNumber::DivisionByZero);
     route_.stops = {2, 3};
     EXPECT_EQ(errorOf([this] { simulated(); }), ErrorNumber{});
-    edit(3, [](Stop& stop) { stop.weight = 1E+308; });
-    edit(2, [](Stop& stop) {
-        stop.type = delivery;
-        stop.weight = 1E+308;
-    });
+    problem_.stops(3).weight = 1E+308;
+    problem_.stops(2).weight = 1E+308;
+    problem_.stops(2).type = delivery;
     EXPECT_EQ(errorOf([this] { simulated(); }), ErrorNumber::Overflow);
 }
 

@@ -98,6 +98,81 @@ TEST_F(RouterWindow, StartsWithItsDefaults) {
     for (const auto& [name, text] : defaults) EXPECT_EQ(fresh.module().find(name)->shownText(), text) << name;
 }
 
+struct BoxWords {
+    const char* box;
+    const char* caption;
+    const char* tip;
+};
+
+const std::vector<BoxWords> parameterWords = {
+    {"txtLabel", "Problem label", ""},
+    {"txtCorner", "Grid corner with 0,0 coordinates (NW, SW, SE, or NE)", ""},
+    {"txtDepot", "Depot description", ""},
+    {"txtZone", "Located in zone", "Speed zone in which depot is located.  Default is 0."},
+    {"txtDepotX", "Horizontal coordinate", "X coordinate for depot"},
+    {"txtDepotY", "Vertical coordinate", "Y coordinate for depot."},
+    {"txtEarlyStart", "Earliest starting time (min.)", "Earliest time that the vehicle may leave the depot."},
+    {"txtReturnTime", "Latest return time (min.)", "Latest time that a vehicle may reurn to the depot"},
+    {"txtDefaultSpeed", "Default vehicle speed (dist. per hour)",
+     "Default speed of the vehicles if more specific speeds are not specified."},
+    {"txtOtime", "After how many hours will overtime begin",
+     "Time into a route after which overtime rates may apply."},
+    {"txtPercntPickup", "Percent of vehicle in use before allowing pickups",
+     "0% means vehicle is empty before allowing pickups.  100% means pickups are allowed at any point on "
+     "route regardless of remaining load on vehicle.  "},
+    {"txtXScaleFactor", "Horizontal scaling factor",
+     "Multipler to convert X coordinates to miles or kilometers.  May include a circuity factor."},
+    {"txtYScaleFactor", "Vertical scaling factor",
+     "Multipler to convert Y coordinates to miles or kilometers.  May include a circuity factor."},
+    {"txtMaxTime", "Maximum TIME allowed on a route (hours)", "Controls length of a route."},
+    {"txtMaxDist", "Maximum DISTANCE allowed on a route (dist.)", "Controls length of a route."},
+    {"txtFixedTime", "Fixed time per stop", "Fixed coefficient of load time formula."},
+    {"txtVarTimeperLb", "Variable time per stop:  By weight", "Variable coefficient of load time formula."},
+    {"txtVarTimePerCube", "By cube", "Variable coefficient of load time formula."},
+    {"txtDur1stBrk", "Duration of 1st break (min.)", "Length of break time"},
+    {"txtDur2ndBrk", "Duration of 2nd break (min.)", "Length of break time"},
+    {"txtDur3rdBrk", "Duration of 3rd break (min.)", "Length of break time"},
+    {"txtDur4thBrk", "Duration of 4th break (min.)", "Length of break time"},
+    {"txtTimeAfter1", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter2", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter3", "To begin after", "Time after which break may begin in minutes."},
+    {"txtTimeAfter4", "To begin after", "Time after which break may begin in minutes."}};
+
+/// What the label of a box says.
+std::string captionOf(const Form& form, const Control& box) {
+    for (const auto& control : form.controls())
+        if (const auto* label = dynamic_cast<const Label*>(control.get()))
+            if (label->buddy == &box) return label->caption;
+    return "";
+}
+
+TEST_F(RouterWindow, NamesAndExplainsEachParameter) {
+    onPage(0);
+    for (const BoxWords& words : parameterWords) {
+        const Control* box = session.module().find(words.box);
+        ASSERT_NE(box, nullptr) << words.box;
+        EXPECT_EQ(box->tip, words.tip) << words.box;
+        EXPECT_EQ(captionOf(session.module(), *box), words.caption) << words.box;
+    }
+}
+
+TEST_F(RouterWindow, HeadsTheGroupsOfParametersAndItsTables) {
+    const std::vector<std::pair<int, const char*>> headings = {{0, "DEPOT DATA"},
+                                                               {0, "GENERAL DATA"},
+                                                               {0, "LOAD/UNLOAD TIME FORMULA"},
+                                                               {3, "Specified stop-to-stop distances"},
+                                                               {4, "Coordinates for speed zones:"},
+                                                               {6, "Specified stop-to-stop speeds"},
+                                                               {7, "Coordinates for barrier polygons"}};
+    session.play("press cmdData");
+    for (const auto& [page, heading] : headings) {
+        session.play("tab " + std::to_string(page));
+        EXPECT_TRUE(std::ranges::any_of(session.module().controls(), [&](const auto& control) {
+            return control->shown() && control->shownText() == heading;
+        })) << heading;
+    }
+}
+
 TEST_F(RouterWindow, OpensANameThatIsNewWithEmptyTables) {
     session.play("file RTRNEW.dat\npress cmdOpen\npress cmdData\ntab 1");
     EXPECT_EQ(session.grid("GridStops").at(1), "0 |  |  |  |  |  |  |  |  |  |  |  | ");
@@ -128,6 +203,25 @@ TEST_F(RouterWindow, ShowsTheEditorInPlaceOfTheMainButtons) {
         EXPECT_TRUE(visible("cmdSolve"));
         session.play("press cmdData");
     }
+}
+
+TEST_F(RouterWindow, NamesAndExplainsItsButtons) {
+    const auto expectWords = [this](const std::vector<BoxWords>& buttons) {
+        for (const BoxWords& words : buttons) {
+            EXPECT_EQ(shown(words.box), "visible enabled \"" + std::string(words.caption) + "\"");
+            EXPECT_EQ(session.module().find(words.box)->tip, words.tip) << words.box;
+        }
+    };
+    session.play("answer cancel\npress cmdSolve");
+    expectWords({{"cmdData", "&Data", "Data editor"},
+                 {"cmdReport", "Re&port", "Needs the routes of a solution: press Solve."},
+                 {"cmdExcel", "&Excel edit", "Edit data in an Excel spreadsheet"}});
+    session.play("press cmdPlot");
+    expectWords({{"cmdContinuePlot", "&Continue", ""},
+                 {"cmdZoom", "Zoo&m", "Adjust picture size"},
+                 {"cmdStopId", "Stop &id.", "Show or hide the numbers of the stops"},
+                 {"cmdZonesPlot", "&Zones", "Show or hide the speed zones"},
+                 {"cmdClrRoute", "Clear ro&utes", "Delete the routes"}});
 }
 
 TEST_F(RouterWindow, CapsItsTables) {
@@ -172,6 +266,12 @@ TEST_F(RouterWindow, ChecksTheDepotsZoneOnlySinceAReportOrPlot) {
     EXPECT_EQ(session.play("tab 8"), "");
     session.play("press cmdContinueValid\npress cmdPlot\npress cmdContinuePlot\npress cmdData\ntab 0");
     EXPECT_EQ(session.play("tab 8"), "beep\n");
+    session.play("tab 0\ntype txtZone 0");
+    EXPECT_EQ(session.play("tab 8"), "beep\n");
+    session.writeFile("ROUTE.DAT", plan);
+    session.play("press cmdContinueValid\nanswer cancel\npress cmdSolve\nanswer A\npress cmdReport\n"
+                 "press cmdContinue\npress cmdData\ntab 0");
+    EXPECT_EQ(session.play("tab 8"), "");
 }
 
 TEST_F(RouterWindow, FillsDescriptionsAsNumbersAreTyped) {
@@ -188,6 +288,16 @@ TEST_F(RouterWindow, FillsDescriptionsAsNumbersAreTyped) {
         session.play("cell " + name + " 1 2 Pier");
         EXPECT_EQ(session.grid(name).at(1), "1 | 3 | Pier |  | Depot | 7.5");
     }
+}
+
+TEST_F(RouterWindow, DescribesTheStopThatANumberIsRoundedTo) {
+    onPage(3);
+    session.play("insert GridDist\ncell GridDist 1 1 1.5\ncell GridDist 1 3 .5");
+    EXPECT_EQ(session.grid("GridDist").at(1), "1 | 1.5 | Quay | .5 | Depot | ");
+    session.play("press cmdContinueDist\nfile RTR02.dat\npress cmdSave");
+    EXPECT_NE(session.readFile("RTR02.dat").find("\r\n1\r\n2,\"Quay\",0,\"Depot\",0\r\n"), std::string::npos);
+    session.play("press cmdData\ncell GridDist 1 1 1E30\ncell GridDist 1 3 -1E30");
+    EXPECT_EQ(session.grid("GridDist").at(1), "1 | 1E30 |  | -1E30 |  | 0");
 }
 
 TEST_F(RouterWindow, FillsNothingIntoAnEmptyTable) {
@@ -243,6 +353,17 @@ TEST_F(RouterWindow, RefusesRowsBeyondEachLimit) {
         EXPECT_EQ(session.play("insert " + grid), "MessageBx " + message + "\n");
         EXPECT_EQ(session.grid(grid).size(), lines + 1);
     }
+}
+
+TEST_F(RouterWindow, TellsOfTheLimitAtEachEnterInTheLastRow) {
+    session.writeFile("RTR02.dat", almostFull());
+    session.play("file RTR02.dat\npress cmdOpen");
+    onPage(1);
+    session.play("insert GridStops\ncurrent GridStops 61 3");
+    for (int time = 1; time <= 2; ++time)
+        EXPECT_EQ(session.play("key GridStops 13"),
+                  "MessageBx \"ROUTER\": \"Too many rows.  Limit is 61\"\n");
+    EXPECT_EQ(session.grid("GridStops").size(), 62U);
 }
 
 TEST_F(RouterWindow, SavesAsManyRowsAsThereAreBeyondTheLimit) {
@@ -517,6 +638,8 @@ TEST_F(RouterWindow, TellsErrorsOfAPlotByItsName) {
     session.writeFile("ROUTE.DAT", "x\n1,1,0,1,900,480\n3\n");
     EXPECT_EQ(session.play("press cmdPlot"),
               "MessageBx \"ROUTER\": \"Subscript out of range occurred in cmdPlot of ROUTER\"\n");
+    EXPECT_EQ(lines(session.play("answer 1\npress cmdSolve")).back(),
+              "MessageBx \"ROUTER\": \"Subscript out of range occurred in cmdPlot of ROUTER\"");
     EXPECT_EQ(session.module().view(), View::Data);
 }
 
@@ -539,6 +662,11 @@ TEST_F(RouterWindow, WarnsOfStopsWithinABarrier) {
     EXPECT_EQ(shown("lblBarrierWarning"),
               "visible enabled \"*** A POINT LIES WITHIN A BARRIER. CORRECT THIS. ***\"");
     EXPECT_EQ(formFaults(session.module()), std::vector<std::string>{});
+    session.play("press cmdContinue");
+    onPage(7);
+    session.play("current GridBar 1 1\npress cmdDelete\npress cmdContinueBar");
+    EXPECT_EQ(session.play("answer A\npress cmdReport"), std::string(labelAsked) + "\"A\"\n");
+    EXPECT_FALSE(visible("lblBarrierWarning"));
 }
 
 TEST_F(RouterWindow, AsksWhetherToPrintThePlot) {

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <numeric>
 #include <string>
 
 #include "routing/ROUTER/report.h"
@@ -31,25 +29,7 @@ class RoughProblems {
         return problem;
     }
 
-    Plan planFor(const Problem& problem) {
-        std::vector<int> stops(static_cast<std::size_t>(problem.stops.count()));
-        std::iota(stops.begin(), stops.end(), 1);
-        for (std::size_t i = stops.size() - 1; i > 0; --i)
-            std::swap(stops[i], stops[static_cast<std::size_t>(random_.from(0, static_cast<int>(i)))]);
-        Plan plan;
-        const int longest = random_.oneIn(5) ? mostStops : 1 + random_.from(0, 7);
-        for (std::size_t at = 0; at < stops.size();) {
-            PlannedRoute& route = plan.routes(++plan.routeCount);
-            const auto count =
-                std::min<std::size_t>(static_cast<std::size_t>(random_.from(1, longest)), stops.size() - at);
-            route.stops.assign(stops.begin() + static_cast<std::ptrdiff_t>(at),
-                               stops.begin() + static_cast<std::ptrdiff_t>(at + count));
-            route.vehicle = random_.from(1, problem.vehicles.count());
-            route.start = random_.from(-100, 4000) / 2.0;
-            at += count;
-        }
-        return plan;
-    }
+    Plan planFor(const Problem& problem) { return random_.plan(problem); }
 
   private:
     std::string names(int most) {
