@@ -231,8 +231,8 @@ std::optional<PlannedRoute> ROUTER::askRoute(int number, const Problem& problem)
     const auto stops =
         ask(joined("The stops in sequence for route ", number) + " are?", "Stops", "Enter stops, e.g. 2,3,5");
     if (!stops) return std::nullopt;
-    return plannedRoute(problem, toInt32(val(*vehicle)), val(*start),
-                        firstStops(*stops, toInt32(val(*count))));
+    const std::vector<int> sequence = firstStops(*stops, toInt32(val(*count)));
+    return plannedRoute(problem, toInt32(val(*vehicle)), val(*start), sequence);
 }
 
 // Report

@@ -116,6 +116,19 @@ TEST(Drawing, AChartOfASingleValueShowsItsBar) {
     EXPECT_GT(pixelsOf(imageOf(Drawing(form, form.chart), 1), QColor(255, 0, 0)), 500);
 }
 
+TEST(Drawing, BarsAreAsWideAsTheClosestTwoAllow) {
+    const auto inked = [](const ChartAxis& x, const std::vector<ChartPoint>& bars) {
+        SampleForm form;
+        form.chart.data.x = x;
+        form.chart.data.y = {"y", 0, 10};
+        form.chart.data.series = {{"s", SeriesKind::Bars, 12, bars}};
+        return pixelsOf(imageOf(Drawing(form, form.chart), 1), QColor(255, 0, 0));
+    };
+    const int two = inked({"x", -1, 2}, {{0, 5}, {1, 5}});
+    EXPECT_NEAR(inked({"x", -10, 20}, {{0, 5}, {10, 5}}), two, .03 * two);
+    EXPECT_NEAR(inked({"x", -1, 2}, {{0, 5}, {.5, 5}, {1.5, 0}}), two / 2, .03 * two);
+}
+
 TEST(Drawing, ATextThatLeavesThePaperIsCutAndKnownWhole) {
     SampleForm form;
     form.surface.moveTo(20, 40);

@@ -109,6 +109,7 @@ TEST_F(FormWindowTest, TabsThatDoNotFitAreCutAndShownWholeAsTips) {
     const auto& bar = *open.widget(form.tabs).findChild<QTabBar*>();
     EXPECT_LE(bar.tabRect(1).right(), open.widget(form.tabs).width());
     EXPECT_EQ(bar.tabToolTip(0), QString(80, 'x'));
+    EXPECT_FALSE(bar.usesScrollButtons()) << "no tab is scrolled out of sight";
 }
 
 TEST_F(FormWindowTest, TypedTextIsTheFormsAndCanBeUndone) {
