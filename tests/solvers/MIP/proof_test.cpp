@@ -66,6 +66,18 @@ TEST(Proof, FindsABetterSolutionThatIsBetterByNextToNothing) {
     EXPECT_TRUE(proved(text, told.costs.front()).costs.empty());
 }
 
+TEST(Proof, BranchesOnAnIntegerThatIsAllButWhole) {
+    // v1 <= v2 and v1 + v2 <= 9.9999999: without integers v1 = 4.99999995
+    const ProblemText text{.objective = {1, 0},
+                           .rows = {{1, -1}, {1, 1}},
+                           .relations = "<<",
+                           .rhs = {0, 9.9999999},
+                           .integers = {1}};
+    const Told told = proved(text, std::nullopt);
+    ASSERT_FALSE(told.costs.empty());
+    EXPECT_EQ(told.costs.back() / exactModel(text.input()).costScale, 4);
+}
+
 TEST(Proof, FindsThatThereIsNoSolution) {
     // 2 v1 + 2 v2 + 6 v3 = 3 with fractions only; 6 v1 + 10 v2 + 15 v3 = 29 in no way
     EXPECT_TRUE(
