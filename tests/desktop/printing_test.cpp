@@ -1,6 +1,7 @@
 #include "desktop/printing.h"
 
 #include <QImage>
+#include <QPdfWriter>
 #include <QProcess>
 #include <gtest/gtest.h>
 
@@ -121,6 +122,21 @@ TEST(Printing, APdfFileHoldsTheTextOnItsPages) {
     EXPECT_NE(text.find("Total cost 1\n"), std::string::npos) << text;
     EXPECT_NE(text.find("Total cost 120\n"), std::string::npos);
     EXPECT_EQ(pagesOfPdf(folder.path() / "x.pdf"), 3);
+}
+
+TEST(Printing, OnlyThePagesThatAreAskedForArePrinted) {
+    const TemporaryFolder folder;
+    const std::filesystem::path file = folder.path() / "x.pdf";
+    QPdfWriter writer(qtText(file.string()));
+    writer.setPageLayout(pageLayout(Orientation::Portrait));
+    writer.setPageRanges(QPageRanges::fromString("2-3"));
+    printOn(writer, jobOf(200, "Total cost"));
+    const std::string text = textOfPdf(file);
+    EXPECT_EQ(pagesOfPdf(file), 2);
+    for (const char* there : {"Page 2 of 4", "Page 3 of 4"})
+        EXPECT_NE(text.find(there), std::string::npos) << text;
+    EXPECT_EQ(text.find("Total cost 1\n"), std::string::npos) << "of the first page";
+    EXPECT_EQ(text.find("Total cost 200\n"), std::string::npos) << "of the last";
 }
 
 TEST(Printing, ColumnsStayUnderEachOther) {
