@@ -97,6 +97,9 @@ TEST_F(TransportationWindow, UndoesASizeAndACell) {
 TEST_F(TransportationWindow, ShowsAndWritesTheLabelsOfTheCurrentCell) {
     EXPECT_EQ(session.play("current Grid 2 3\nshow txtRowLabel\nshow txtColLabel"),
               "txtRowLabel: visible enabled \"Pit two\"\ntxtColLabel: visible enabled \"Town\"\n");
+    EXPECT_EQ(session.play("current Grid 1 1\nshow txtRowLabel\nshow txtColLabel"),
+              "txtRowLabel: visible enabled \"Pit one\"\ntxtColLabel: visible enabled \"Works\"\n");
+    session.play("current Grid 2 3");
     session.play("type txtRowLabel Pit 2\nkeys txtColLabel !");
     EXPECT_EQ(session.grid("Grid").at(0), "From\\To | Works | Port | Town! | Supply");
     EXPECT_EQ(session.grid("Grid").at(2), "Pit 2 | 3.25 |  | 6 | 35.5");
