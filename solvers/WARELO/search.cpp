@@ -25,7 +25,7 @@ struct Effort {
     double work;
 };
 constexpr Effort usualEffort = {100, 4E+7};       // less than a second
-constexpr Effort effortForWideGap = {3000, 1E+9}; // some seconds
+constexpr Effort effortForWideGap = {1000, 1E+8}; // some seconds
 constexpr double wideGap = 1E-3;                  // of the cost
 
 /// The best of both so far, told whenever it gets better.

@@ -28,7 +28,7 @@ class Flows {
 
     void supply(std::size_t warehouse, double amount) {
         while (amount > 0) {
-            const std::size_t plant = cheapestFor(warehouse);
+            const std::size_t plant = takerOver(warehouse, cheapestFor(warehouse));
             const double step = std::min(amount, mostAlong(plant));
             if (step <= 0) return; // nothing is left but what rounding has lost
             send(plant, warehouse, step);
@@ -71,22 +71,31 @@ class Flows {
         return best;
     }
 
+    bool handsOn(std::size_t plant) const { return left_[plant] <= 0 && next_[plant] != plant; }
+
+    /// The plant that supplies a warehouse in the end where one after the other hands on over this very
+    /// warehouse. Those between would get as much as they give, and what they have there now would only limit
+    /// the step.
+    std::size_t takerOver(std::size_t warehouse, std::size_t plant) const {
+        while (handsOn(plant) && over_[plant] == warehouse) plant = next_[plant];
+        return plant;
+    }
+
+    std::size_t takerFrom(std::size_t plant) const { return takerOver(over_[plant], next_[plant]); }
+
     /// How much the way from a plant to one with capacity left can take on.
     double mostAlong(std::size_t plant) {
         double most = unreached;
-        for (; left_[plant] <= 0; plant = next_[plant]) {
-            if (next_[plant] == plant) return 0;
-            most = std::min(most, flow(plant, over_[plant]));
-        }
+        for (; handsOn(plant); plant = takerFrom(plant)) most = std::min(most, flow(plant, over_[plant]));
         return std::min(most, left_[plant]);
     }
 
     void send(std::size_t plant, std::size_t warehouse, double amount) {
         flow(plant, warehouse) += amount;
-        while (left_[plant] <= 0) {
+        while (handsOn(plant)) {
             const std::size_t over = over_[plant];
             flow(plant, over) -= amount;
-            plant = next_[plant];
+            plant = takerFrom(plant);
             flow(plant, over) += amount;
         }
         left_[plant] -= amount;

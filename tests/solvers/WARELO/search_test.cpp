@@ -103,6 +103,41 @@ TEST(WareloSearch, ProvesRandomSelectionsWithinAThousandth) {
     for (int i = 0; i < 5; ++i) EXPECT_LT(best(baseCaseWith(random)).gap(), 1E-3) << "selection " << i;
 }
 
+/// The base case with these rows selected.
+Case baseCaseWith(const std::vector<int>& plants, const std::vector<int>& warehouses) {
+    Case problem = tests::baseCase();
+    for (int p = 1; p <= problem.plantCount; ++p) problem.plants(p).selection.clear();
+    for (int w = 1; w <= problem.warehouseCount; ++w) problem.warehouses(w).selection.clear();
+    for (const int p : plants) problem.plants(p).selection = wareloca::mark;
+    for (const int w : warehouses) problem.warehouses(w).selection = wareloca::mark;
+    return problem;
+}
+
+TEST(WareloSearch, ProvesSelectionsOfScarcePlantsWithinAFewTenThousandths) {
+    EXPECT_LT(best(baseCaseWith({3, 4, 5, 6}, {4, 5, 7, 27, 46})).gap(), 2E-4);
+    EXPECT_LT(best(baseCaseWith({1, 4, 5, 6}, {7, 18, 23, 44, 45})).gap(), 2E-4);
+    EXPECT_LT(
+        best(baseCaseWith({1, 3, 6}, {1, 4, 8, 9, 11, 13, 15, 16, 18, 22, 24, 25, 29, 31, 33, 38, 45, 48}))
+            .gap(),
+        2E-4);
+}
+
+/// Raises a bound on the base case for so many steps.
+double raisedBound(int steps) {
+    const Network network = networkOf(tests::baseCase());
+    Found first;
+    search(network, [&](const Found& found) {
+        if (first.allocation.empty()) first = found;
+    });
+    Bound bound(network, first.allocation);
+    for (int step = 0; step < steps; ++step) bound.step(first.cost);
+    return bound.value();
+}
+
+TEST(WareloBound, IsNearItsHighestAfterAHundredSteps) {
+    EXPECT_GT(raisedBound(100), .9998 * raisedBound(1000));
+}
+
 TEST(WareloSearch, ComesWithinAThousandthOfTheLinearRelaxation) {
     std::mt19937 random(6);
     for (int i = 0; i < 3; ++i) {
