@@ -58,8 +58,8 @@ TEST(CheapestSupply, IsNotHeldUpByTheLittleThatAFullPlantMakesForTheSameWarehous
 }
 
 TEST(CheapestSupply, IsNotHeldUpByTheLittleThatPlantsHandOnOverTheSameWarehouse) {
-    // Plants 1 and 2 share warehouse 1 and are full; what plant 3 takes over there passes by plant 2.
-    const Supply supply = cheapestSupply(network({1000, 10, 3000}, {{1, 0, 0}, {2, 0, 9}, {4, 20, 20}}),
+    // Plants 2 and 1 share warehouse 1 and are full; what plant 3 takes over there passes plant 1 by.
+    const Supply supply = cheapestSupply(network({10, 1000, 3000}, {{2, 0, 9}, {1, 0, 0}, {4, 20, 20}}),
                                          {1000 + 1E-6, 10 - 1E-6, 900});
     EXPECT_NEAR(supply.flows(2, 0), 900, 1E-5);
     EXPECT_NEAR(supply.cost, 100 + 2E-6 + 900 * 4, 1E-3);
