@@ -43,10 +43,10 @@ wareloca::Case selection(std::mt19937& random, int warehouses) {
     }
     std::shuffle(rows.begin(), rows.end(), random);
     for (int i = 0; i < warehouses; ++i)
-        problem.warehouses(rows[static_cast<std::size_t>(i)]).selection = wareloca::mark;
+        problem.warehouses(rows[static_cast<std::size_t>(i)]).selection = mark;
     do
         for (int p = 1; p <= problem.plantCount; ++p)
-            problem.plants(p).selection = random() % 2 == 0 ? wareloca::mark : "";
+            problem.plants(p).selection = random() % 2 == 0 ? mark : "";
     while (warelo::faultIn(problem));
     return problem;
 }

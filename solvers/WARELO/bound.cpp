@@ -151,8 +151,8 @@ void Bound::evaluate() {
     const std::size_t warehouses = network_->warehouses.size();
     timesServed_.assign(network_->customers.size(), 0);
     plantOutput_.assign(network_->plants.size(), 0);
-    unitCost_.assign(warehouses, 0);
-    throughput_.assign(warehouses, 0);
+    unitCost_.resize(warehouses);
+    throughput_.resize(warehouses);
     present_ = 0;
     for (std::size_t c = 0; c < customerPrice_.size(); ++c)
         present_ += network_->customers[c].sales * customerPrice_[c];

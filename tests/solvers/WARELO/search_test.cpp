@@ -86,10 +86,9 @@ Case baseCaseWith(std::mt19937& random) {
     Case problem = tests::baseCase();
     std::bernoulli_distribution half(.5);
     do {
-        for (int p = 1; p <= problem.plantCount; ++p)
-            problem.plants(p).selection = half(random) ? wareloca::mark : "";
+        for (int p = 1; p <= problem.plantCount; ++p) problem.plants(p).selection = half(random) ? mark : "";
         for (int w = 1; w <= problem.warehouseCount; ++w)
-            problem.warehouses(w).selection = half(random) ? wareloca::mark : "";
+            problem.warehouses(w).selection = half(random) ? mark : "";
     } while (faultIn(problem));
     return problem;
 }
@@ -108,18 +107,13 @@ Case baseCaseWith(const std::vector<int>& plants, const std::vector<int>& wareho
     Case problem = tests::baseCase();
     for (int p = 1; p <= problem.plantCount; ++p) problem.plants(p).selection.clear();
     for (int w = 1; w <= problem.warehouseCount; ++w) problem.warehouses(w).selection.clear();
-    for (const int p : plants) problem.plants(p).selection = wareloca::mark;
-    for (const int w : warehouses) problem.warehouses(w).selection = wareloca::mark;
+    for (const int p : plants) problem.plants(p).selection = mark;
+    for (const int w : warehouses) problem.warehouses(w).selection = mark;
     return problem;
 }
 
-TEST(WareloSearch, ProvesSelectionsOfScarcePlantsWithinAFewTenThousandths) {
+TEST(WareloSearch, ProvesASelectionOfScarcePlantsWithinAFewTenThousandths) {
     EXPECT_LT(best(baseCaseWith({3, 4, 5, 6}, {4, 5, 7, 27, 46})).gap(), 2E-4);
-    EXPECT_LT(best(baseCaseWith({1, 4, 5, 6}, {7, 18, 23, 44, 45})).gap(), 2E-4);
-    EXPECT_LT(
-        best(baseCaseWith({1, 3, 6}, {1, 4, 8, 9, 11, 13, 15, 16, 18, 22, 24, 25, 29, 31, 33, 38, 45, 48}))
-            .gap(),
-        2E-4);
 }
 
 /// Raises a bound on the base case for so many steps.
@@ -146,7 +140,7 @@ TEST(WareloSearch, ComesWithinAThousandthOfTheLinearRelaxation) {
             if (w % 4 != i) problem.warehouses(w).selection = "";
         for (int c = 1; c <= problem.customerCount; ++c)
             if (c % 6 != i) problem.customers(c).sales = 0;
-        problem.warehouses(1).selection = wareloca::mark;
+        problem.warehouses(1).selection = mark;
         const double relaxation = tests::linearBound(problem, 8);
         const Found found = best(problem);
         EXPECT_GE(found.cost, relaxation * (1 - 1E-9));
