@@ -26,6 +26,35 @@ bool shows(PlotPoint point, const std::string& text) {
     return std::ranges::find(texts, text) != texts.end();
 }
 
+TEST(PointPlot, RulesElevenLinesEachWay) {
+    PictureSurface surface("picOut", {}, {2, 3});
+    drawPlotFrame(surface, {2, 3}, {"", "Arial", 16}, {{1, 1}});
+    std::vector<SurfaceLine> rules;
+    for (const SurfaceOperation& operation : surface.operations())
+        if (const auto* line = std::get_if<SurfaceLine>(&operation)) rules.push_back(*line);
+    ASSERT_EQ(rules.size(), 22U);
+    for (int i = 0; i < 11; ++i) {
+        const double x = 2 * (240 + 32 * i), y = 3 * (70 + 32 * i);
+        EXPECT_EQ(std::ranges::count(rules, SurfaceLine{480, y, 1120, y, colour::black}), 1) << i;
+        EXPECT_EQ(std::ranges::count(rules, SurfaceLine{x, 210, x, 1170, colour::black}), 1) << i;
+    }
+}
+
+TEST(PointPlot, EndsTickLabelsBesideTheLeftAxisAndBeginsThemUnderTheLower) {
+    PictureSurface surface("picOut", {}, {1, 1});
+    drawPlotFrame(surface, {1, 1}, {"", "Arial", 16}, {{10, 20}});
+    const auto placeOf = [&](const std::string& tick, bool under) {
+        for (const SurfaceOperation& operation : surface.operations())
+            if (const auto* text = std::get_if<SurfaceText>(&operation))
+                if (text->text == tick && (text->y == 400) == under) return std::pair(text->x, text->y);
+        return std::pair(0.0, 0.0);
+    };
+    EXPECT_EQ(placeOf("0", true), std::pair(237.0, 400.0));
+    EXPECT_EQ(placeOf("10", true), std::pair(557.0, 400.0));
+    EXPECT_EQ(placeOf("0", false), std::pair(221.0, 384.0));
+    EXPECT_EQ(placeOf("20", false), std::pair(213.0, 64.0));
+}
+
 TEST(PointPlot, LabelsItsAxesInThePowerOfTenOfTheLargestCoordinate) {
     constexpr std::array<std::pair<double, const char*>, 14> units = {{{0, " 1s"},
                                                                        {.0099, " 1s"},
