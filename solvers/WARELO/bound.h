@@ -45,8 +45,9 @@ struct Range {
 /// methods by modified gradient techniques", Mathematical Programming Study 3 (1975).
 class Bound {
   public:
-    /// Starts from what things cost in an allocation, for throughputs of every size.
+    /// Starts from what things cost in an allocation, for throughputs of every size. The network outlives it.
     Bound(const Network& network, const Allocation& allocation);
+    Bound(Network&& network, const Allocation& allocation) = delete;
 
     /// The same prices once more, for a part of the ranges.
     Bound(const Bound& whole, std::size_t warehouse, Range part);

@@ -8,7 +8,7 @@ namespace vantore::warelo {
 
 namespace {
 
-constexpr double unreached = std::numeric_limits<double>::max();
+constexpr double unreached = std::numeric_limits<double>::infinity();
 
 /// Of the costs of a cwt.: shorter by less is not shorter, so that rounding makes no circle of ways.
 constexpr double relativeTolerance = 1E-12;
@@ -61,7 +61,6 @@ class Flows {
         std::size_t best = 0;
         double least = unreached;
         for (std::size_t p = 0; p < toSlack_.size(); ++p) {
-            if (toSlack_[p] == unreached) continue;
             const double price = cost(p, warehouse) + toSlack_[p];
             if (price < least) {
                 least = price;
@@ -121,7 +120,7 @@ class Flows {
         for (std::size_t w = 0; w < network_.warehouses.size(); ++w) {
             if (flow(p, w) <= 0) continue;
             for (std::size_t q = 0; q < left_.size(); ++q) {
-                if (q == p || toSlack_[q] == unreached) continue;
+                if (q == p) continue;
                 const double length = cost(q, w) - cost(p, w) + toSlack_[q];
                 if (length >= toSlack_[p] - tolerance_) continue;
                 toSlack_[p] = length;

@@ -170,10 +170,42 @@ TEST(LocalSearch, ClosesAWarehouseThatDoesNotPay) {
     EXPECT_EQ(together[0], together[1]);
 }
 
+TEST(LocalSearch, ClosesAWarehouseWhoseCustomersPartToItsNeighbours) {
+    // A degree apart from each other lie three warehouses, each of them with an inventory of 30 $; halfway
+    // between them two customers of the middle one. Either of the others would serve one of them as well, and
+    // both of them for 10 x 69 miles x .1 $ more.
+    Case problem = tests::freeCase();
+    problem.warehouseCount = 3;
+    problem.customerCount = 4;
+    for (int w = 2; w <= 3; ++w) problem.warehouses(w) = problem.warehouses(1);
+    for (int c = 2; c <= 4; ++c) problem.customers(c) = problem.customers(1);
+    problem.warehouses(2).x = 41;
+    problem.warehouses(3).x = problem.customers(4).x = 42;
+    problem.customers(2).x = 40.5;
+    problem.customers(3).x = 41.5;
+    problem.plants(1).capacity = 1000;
+    problem.warehouseCustomerVariable = .1;
+    problem.inventoryConstant = 30;
+    problem.inventoryExponent = 0;
+    problem.productValue = 1;
+    problem.capitalCost = 100;
+    EXPECT_EQ(improved(networkOf(problem), {0, 1, 1, 2}), (Allocation{0, 0, 2, 2}));
+}
+
+TEST(WareloBound, PricesWarehousesThatServeNextToNothing) {
+    // An inventory costs 1 $ of any size, so that each warehouse would rather have it for both customers.
+    Case problem = twoTowns();
+    problem.customers(1).sales = problem.customers(2).sales = .25;
+    const Network network = networkOf(problem);
+    const Bound bound(network, {0, 1});
+    EXPECT_EQ(bound.warehousePrice(), (std::vector<double>{2, 2}));
+}
+
 TEST(WareloBound, IsExactAtTheStartWhereNothingPullsApart) {
     Case problem = twoTowns();
     problem.inventoryExponent = 1;
-    const Bound bound(networkOf(problem), {0, 1});
+    const Network network = networkOf(problem);
+    const Bound bound(network, {0, 1});
     EXPECT_NEAR(bound.value(), 20, 1E-9);
 }
 
