@@ -59,8 +59,8 @@ TEST(SingleFacility, FollowsTheHeavierOfTwoPoints) {
 
 TEST(SingleFacility, ComesBackHalfwayWhereAStepHasRaisedTheCost) {
     // The mean is B itself. A pulls by 6, C by 9, and the second derivatives (in lengths along the line) are
-    // 6 / 3 + 9 / 2: the first step goes 3 / 6.5 beyond B, to x = 33 / 13, and costs more. Halfway between the
-    // last two places, again and again, ends two thirds of the way.
+    // 6 / 3 + 9 / 2: the first step goes 3 / 6.5 beyond B, to x = 33 / 13, and costs more. Halfway between
+    // the last two places, again and again, ends two thirds of the way.
     const std::vector<Point> points = {{"A", 6, 12, 6, 1}, {"B", 3, 6, 6, 1}, {"C", 1, 2, 9, 1}};
     const Facility facility = singleFacility(points);
     EXPECT_NEAR(facility.location.x, (3 + 2 * 33.0 / 13) / 3, 1E-12);
