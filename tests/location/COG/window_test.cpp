@@ -107,6 +107,18 @@ TEST(CogWindow, OffersNoPlotOfASolveThatCameToNothing) {
         "cmdContinue: visible enabled \"&Continue\"\n");
 }
 
+TEST(CogWindow, OffersNoPlotOfACycleThatFailed) {
+    ModuleSession session;
+    session.writeFile("COG01.dat", "\"None\",.5,1\r\n1\r\n\"A\",1,2,0,1\r\n");
+    session.open("COG", "COG01.dat");
+    const std::string told =
+        session.play("answer 1\nanswer Yes\npress cmdSolve\nshow cmdPlot\nshow cmdContinue");
+    EXPECT_TRUE(told.ends_with("\"Division by zero occurred in COG Solver.\"\n"
+                               "cmdPlot: hidden enabled \"P&lot\"\n"
+                               "cmdContinue: visible enabled \"&Continue\"\n"))
+        << told;
+}
+
 TEST(CogWindow, DrawsAFacilityThatCostsNothing) {
     ModuleSession session;
     session.writeFile("COG01.dat", "\"One\",.5,1\r\n1\r\n\"A\",1,0,5,1\r\n");
