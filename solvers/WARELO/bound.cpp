@@ -79,7 +79,7 @@ Bound::Bound(const Network& network, const Allocation& allocation)
     best_ = present_;
 }
 
-Bound::Bound(const Bound& whole, std::size_t warehouse, Range part) : Bound(whole) {
+Bound::Bound(Bound whole, std::size_t warehouse, Range part) : Bound(std::move(whole)) {
     ranges_[warehouse] = part;
     length_ = firstLength;
     stepsWithoutGain_ = 0;

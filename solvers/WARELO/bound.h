@@ -50,7 +50,7 @@ class Bound {
     Bound(Network&& network, const Allocation& allocation) = delete;
 
     /// The same prices once more, for a part of the ranges.
-    Bound(const Bound& whole, std::size_t warehouse, Range part);
+    Bound(Bound whole, std::size_t warehouse, Range part);
 
     /// The highest L so far, $ a year.
     double value() const { return best_; }
