@@ -34,11 +34,12 @@ constexpr std::size_t labelCharacters = 15;
 
 /// The unit in which an axis is labelled.
 double divisorFor(double largest) {
-    if (largest >= 10000 && largest < 100000) return 100;
-    if (largest >= 1000 && largest < 10000) return 10;
-    if (largest >= 1 && largest < 1000) return 1;
-    if (largest >= .1 && largest < 1) return .1;
-    if (largest >= .01 && largest < .1) return .01;
+    if (largest >= 100000) return 1;
+    if (largest >= 10000) return 100;
+    if (largest >= 1000) return 10;
+    if (largest >= 1) return 1;
+    if (largest >= .1) return .1;
+    if (largest >= .01) return .01;
     return 1;
 }
 

@@ -28,6 +28,17 @@ inline constexpr std::array<Field<WeightedPoint>, 5> weightedPointFields = {
     &WeightedPoint::label, &WeightedPoint::x, &WeightedPoint::y, &WeightedPoint::volume,
     &WeightedPoint::rate};
 
+/// A new problem: a label, coordinates that are miles or kilometres already, and a point to begin with.
+template <class Problem>
+Problem newProblem() {
+    Problem problem;
+    problem.label = "Enter label";
+    problem.mapFactor = 1;
+    problem.rowCount = 1;
+    problem.points(1).label = "Enter label";
+    return problem;
+}
+
 /// Reads a problem that is its scalars and at most so many points. InputPastEnd for a short file,
 /// SubscriptOutOfRange for a count of points outside 0 to `mostPoints`.
 template <class Problem>

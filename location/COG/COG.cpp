@@ -120,8 +120,8 @@ void COG::computeLocation(const Problem& problem) {
     printTableHeading(*picOut, scale());
     const std::optional<Location> start = centreOfGravity(problem);
     if (!start) message("All volume or rate data are 0", "Data error");
-    Cycle cycle{0, start.value_or(Location{}), 0};
-    cycle.cost = totalCost(problem, cycle.location);
+    const Location centre = start.value_or(Location{});
+    Cycle cycle{0, centre, totalCost(problem, centre)};
     showCycle(cycle, cycle);
     while (suite().asksYes("Another computational cycle?", "Question")) {
         hasOutcome_ = false;

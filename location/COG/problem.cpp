@@ -3,12 +3,8 @@
 namespace vantore::cog {
 
 std::string skeleton() {
-    Problem problem;
-    problem.label = "Enter label";
+    Problem problem = newProblem<Problem>();
     problem.powerFactor = .5;
-    problem.mapFactor = 1;
-    problem.rowCount = 1;
-    problem.points(1).label = "Enter label";
     ItemWriter writer;
     write(problem, writer);
     return writer.text();

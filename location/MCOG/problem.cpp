@@ -11,13 +11,8 @@ constexpr PointRange positiveRate = {
 } // namespace
 
 std::string skeleton() {
-    Problem problem;
-    problem.label = "Enter label";
-    problem.mapFactor = 1;
-    problem.rowCount = 1;
-    problem.points(1).label = "Enter label";
     ItemWriter writer;
-    write(problem, writer);
+    write(newProblem<Problem>(), writer);
     return writer.text();
 }
 

@@ -4,7 +4,6 @@
 #include "shell/base/number_text.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
-#include "shell/forms/keys.h"
 #include "shell/printing.h"
 
 namespace vantore::pmed {
@@ -26,7 +25,6 @@ constexpr const char* solverOutput = "FOROUT";
 constexpr int xColumn = 2;
 constexpr int yColumn = 3;
 constexpr int markColumn = 7;
-constexpr const char* mark = "X";
 constexpr const char* degreesMask = "##0.00";
 
 constexpr Rect gridPlace{120, 1500, 9360, 4830}; // twips of the design
@@ -87,12 +85,10 @@ void PMED::addSites() {
                {"Transport\r\nrate", 1050},
                {"Fixed\r\ncost", 1050},
                {"Candidate\r\nsites", 1060}}};
+    candidates_ = {*Grid, markColumn};
     Grid->onKey = [this, &rows](int code) {
-        if (Grid->col() != markColumn || Grid->rowCount() <= 0 || code == keys::escape) {
-            rows.keyPress(code);
-        } else if (code != keys::enter) {
-            toggleMark();
-        }
+        const bool turns = candidates_.isTurnedOverBy(code) && Grid->rowCount() > 0;
+        turns ? toggleMark() : rows.keyPress(code);
     };
     Grid->tip = "A key pressed in the last column marks a candidate site, or takes the mark away.";
 }
@@ -128,24 +124,17 @@ void PMED::restored() {
 
 // Candidate sites
 
-bool PMED::marked(int row) const {
-    return Grid->cell(row, markColumn) == mark;
-}
-
 int PMED::markCount() const {
     int count = 0;
-    for (int row = 1; row <= Grid->rowCount() && row < Grid->rows(); ++row) count += marked(row) ? 1 : 0;
+    for (int row = 1; row <= Grid->rowCount() && row < Grid->rows(); ++row)
+        count += candidates_.marked(row) ? 1 : 0;
     return count;
 }
 
 void PMED::toggleMark() {
-    if (marked(Grid->row())) {
-        Grid->editText().clear();
-    } else if (markCount() >= mostCandidates) {
-        message(joined("There may be no more than ", mostCandidates) + " candidate sites");
-    } else {
-        Grid->editText() = mark;
-    }
+    if (!candidates_.marked(Grid->row()) && markCount() >= mostCandidates)
+        return message(joined("There may be no more than ", mostCandidates) + " candidate sites");
+    candidates_.turnOver(Grid->row());
 }
 
 void PMED::checkFacilityCount() {
@@ -178,7 +167,7 @@ void PMED::readProblem(ItemReader& reader) {
             Grid->setCell(i, xColumn, format(site.x, degreesMask));
             Grid->setCell(i, yColumn, format(site.y, degreesMask));
         }
-        Grid->setCell(i, markColumn, site.candidate ? mark : "");
+        candidates_.set(i, site.candidate);
     }
 }
 
@@ -189,7 +178,7 @@ Problem PMED::readControls() const {
     problem.rowCount = Grid->rowCount();
     for (int i = 1; i <= problem.rowCount; ++i) {
         sites_.take(i, problem.sites(i));
-        problem.sites(i).candidate = marked(i);
+        problem.sites(i).candidate = candidates_.marked(i);
     }
     return problem;
 }
@@ -197,9 +186,9 @@ Problem PMED::readControls() const {
 void PMED::fillBlankCells() {
     std::vector<int> unmarked;
     for (int row = 1; row < Grid->rows(); ++row)
-        if (!marked(row)) unmarked.push_back(row);
+        if (!candidates_.marked(row)) unmarked.push_back(row);
     ModuleFrame::fillBlankCells();
-    for (const int row : unmarked) Grid->setCell(row, markColumn, "");
+    for (const int row : unmarked) candidates_.set(row, false);
 }
 
 // Solve

@@ -2,6 +2,7 @@
 
 #include "location/PMED/exchange.h"
 #include "location/PMED/plot.h"
+#include "location/mark_column.h"
 #include "shell/fields.h"
 #include "shell/grid_columns.h"
 #include "shell/module_frame.h"
@@ -31,7 +32,6 @@ class PMED : public ModuleFrame {
 
     Coordinates coordinates() const;
     void nameCoordinates();
-    bool marked(int row) const;
     int markCount() const;
     void toggleMark();
     void checkFacilityCount();
@@ -48,6 +48,7 @@ class PMED : public ModuleFrame {
     PictureSurface* picOut = nullptr;
     Fields<Problem> scalars_;
     GridColumns<Site> sites_;
+    MarkColumn candidates_;
 
     Assignment assignment_;
     bool hasOutcome_ = false; // the last Solve came to a report that can be printed and plotted

@@ -5,9 +5,9 @@
 
 #include "location/WARELOCA/plot.h"
 #include "location/WARELOCA/report.h"
+#include "location/mark_column.h"
 #include "shell/base/text.h"
 #include "shell/base/text_file.h"
-#include "shell/forms/keys.h"
 #include "shell/printing.h"
 
 namespace vantore::wareloca {
@@ -75,18 +75,14 @@ DataGrid& WARELOCA::addTable(const std::string& name, int page, double height) {
     return grid;
 }
 
-/// In the selection column a click or a key turns the mark over. Escape takes it away, as it clears every
-/// cell, and Enter leaves every cell as it is.
+/// In the selection column a click or a key turns the mark over.
 void WARELOCA::addSelectionColumn(DataGrid& grid) {
-    const auto turn = [&grid](int row) {
-        grid.setCell(row, selectionColumn, grid.cell(row, selectionColumn).empty() ? mark : "");
+    MarkColumn selection(grid, selectionColumn);
+    grid.onCellClick = [selection](int row, int col) mutable {
+        if (row >= 1 && col == selectionColumn) selection.turnOver(row);
     };
-    grid.onCellClick = [turn](int row, int col) {
-        if (row >= 1 && col == selectionColumn) turn(row);
-    };
-    grid.onKey = [&grid, turn](int code) {
-        const bool turns = grid.col() == selectionColumn && code != keys::escape && code != keys::enter;
-        turns ? turn(grid.row()) : cellKeyPress(grid, code);
+    grid.onKey = [&grid, selection](int code) mutable {
+        selection.isTurnedOverBy(code) ? selection.turnOver(grid.row()) : cellKeyPress(grid, code);
     };
 }
 
@@ -203,19 +199,17 @@ void WARELOCA::copyBaseCase() {
     }
 }
 
+/// The case stands in the tables before the selection is read, so that a bad one costs the marks alone.
 void WARELOCA::readProblem(ItemReader& reader) {
     Case problem = read(reader);
-    std::error_code error;
-    const bool selected = std::filesystem::exists(suite().ioPath(selectionFile), error);
-    if (selected) {
-        ItemReader selection(readTextFile(suite().ioPath(selectionFile)));
-        readSelection(problem, selection);
-    } else {
-        problem.desiredDistance = readControls().desiredDistance;
-    }
+    problem.desiredDistance = readControls().desiredDistance;
     putProblem(problem);
-    if (!selected)
-        message("OLDSOL.DAT file not found in cmdOpen, WARELOCA.  Reinstall it from setup program.");
+    std::error_code error;
+    if (!std::filesystem::exists(suite().ioPath(selectionFile), error))
+        return message("OLDSOL.DAT file not found in cmdOpen, WARELOCA.  Reinstall it from setup program.");
+    ItemReader selection(readTextFile(suite().ioPath(selectionFile)));
+    readSelection(problem, selection);
+    putProblem(problem);
 }
 
 void WARELOCA::putProblem(const Case& problem) {

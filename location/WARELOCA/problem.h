@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "location/mark.h"
 #include "shell/base/record_fields.h"
 #include "shell/base/table.h"
 
@@ -14,9 +15,6 @@ namespace vantore::wareloca {
 constexpr int mostPlants = 6;
 constexpr int mostWarehouses = 48;
 constexpr int mostCustomers = 191;
-
-/// What marks a plant or a warehouse as selected.
-constexpr const char* mark = "X";
 
 struct Plant {
     double x = 0;

@@ -1,6 +1,7 @@
 #include "solvers/WARELO/bound.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace vantore::warelo {
@@ -9,8 +10,10 @@ namespace {
 
 constexpr double firstLength = 1;
 constexpr double leastLength = 1E-4;
-constexpr int patience = 12;   // steps without gain until they are made shorter
-constexpr double memory = .95; // share of the steps before in the means
+constexpr int patience = 12;                // steps without gain until they are made shorter
+constexpr double memory = .95;              // share of the steps before in the means
+constexpr double bending = 1.5;             // Camerini, Fratta and Maffioli's
+constexpr double shareOfMeanCapacity = .05; // that counts as one customer
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /// The sets of customers, each the one before and a further customer, from the least bracket on.
@@ -48,10 +51,15 @@ struct Choice {
     double throughput = 0;
 };
 
+double product(const std::vector<double>& a, const std::vector<double>& b) {
+    return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
+}
+
 } // namespace
 
 Bound::Bound(const Network& network, const Allocation& allocation)
-    : network_(&network), meanCapacity_(network.capacity() / static_cast<double>(network.plants.size())),
+    : network_(&network),
+      plantUnit_(shareOfMeanCapacity * network.capacity() / static_cast<double>(network.plants.size())),
       ranges_(network.warehouses.size()), length_(firstLength) {
     const std::vector<double> throughput = throughputOf(network, allocation);
     const Supply supply = cheapestSupply(network, throughput);
@@ -61,39 +69,71 @@ Bound::Bound(const Network& network, const Allocation& allocation)
         customerPrice_.push_back(network.deliveryCostOf(w, c) + supply.warehousePrice[w] +
                                  network.inventoryCost(w, throughput[w]) / throughput[w]);
     }
+    for (std::size_t p = 0; p < plantPrice_.size(); ++p) {
+        std::vector<double>& shares = passedOn_.emplace_back();
+        for (const std::size_t w : allocation)
+            shares.push_back(supply.flows(static_cast<long long>(p), static_cast<long long>(w)) /
+                             throughput[w]);
+    }
     evaluate();
     best_ = present_;
 }
 
-Bound::Bound(const Bound& whole, std::size_t warehouse, Range part) : Bound(whole) {
+Bound::Bound(Bound whole, std::size_t warehouse, Range part) : Bound(std::move(whole)) {
     ranges_[warehouse] = part;
     length_ = firstLength;
     stepsWithoutGain_ = 0;
     meanThroughput_.clear();
+    direction_.clear();
     evaluate();
     best_ = std::max(best_, present_);
 }
 
 bool Bound::step(double cost) {
     if (length_ < leastLength) return false;
-    double norm = 0;
-    for (const double times : timesServed_) norm += (1 - times) * (1 - times);
-    std::vector<double> excess(plantOutput_.size());
-    for (std::size_t p = 0; p < excess.size(); ++p) {
-        excess[p] = (plantOutput_[p] - network_->plants[p].capacity) / meanCapacity_;
-        if (excess[p] < 0 && plantPrice_[p] == 0) excess[p] = 0;
-        norm += excess[p] * excess[p];
-    }
-    if (norm == 0) return false; // the sets are an allocation, and nothing is dearer than it has to be
-    const double stride = length_ * std::max(cost - present_, 0.0) / norm;
+    const std::vector<double> uphill = subgradient();
+    if (product(uphill, uphill) == 0) return false; // an allocation, and nothing dearer than it has to be
+    bend(uphill);
+    const double stride = length_ * std::max(cost - present_, 0.0) / product(direction_, direction_);
     if (stride == 0) return false;
-    for (std::size_t c = 0; c < customerPrice_.size(); ++c)
-        customerPrice_[c] += stride * (1 - timesServed_[c]) / network_->customers[c].sales;
-    for (std::size_t p = 0; p < excess.size(); ++p)
-        plantPrice_[p] = std::max(0.0, plantPrice_[p] + stride * excess[p] / meanCapacity_);
+    move(stride);
     evaluate();
     learn();
     return true;
+}
+
+/// How L changes with what each customer pays and, passed on to the customers, with what each plant asks; in
+/// customers.
+std::vector<double> Bound::subgradient() const {
+    std::vector<double> change;
+    for (const double times : timesServed_) change.push_back(1 - times);
+    for (std::size_t p = 0; p < plantPrice_.size(); ++p) {
+        double excess = plantOutput_[p] - network_->plants[p].capacity;
+        for (std::size_t c = 0; c < timesServed_.size(); ++c)
+            excess += passedOn_[p][c] * network_->customers[c].sales * (1 - timesServed_[c]);
+        change.push_back(excess < 0 && plantPrice_[p] == 0 ? 0 : excess / plantUnit_);
+    }
+    return change;
+}
+
+/// Keeps as much of the last direction as takes the new one from more than a right angle to less.
+void Bound::bend(const std::vector<double>& subgradient) {
+    if (direction_.empty()) direction_.assign(subgradient.size(), 0);
+    const double along = product(subgradient, direction_);
+    const double kept = along < 0 ? -bending * along / product(direction_, direction_) : 0;
+    for (std::size_t i = 0; i < direction_.size(); ++i) direction_[i] = subgradient[i] + kept * direction_[i];
+}
+
+void Bound::move(double stride) {
+    const std::size_t customers = customerPrice_.size();
+    for (std::size_t c = 0; c < customers; ++c)
+        customerPrice_[c] += stride * direction_[c] / network_->customers[c].sales;
+    for (std::size_t p = 0; p < plantPrice_.size(); ++p) {
+        const double before = plantPrice_[p];
+        plantPrice_[p] = std::max(0.0, before + stride * direction_[customers + p] / plantUnit_);
+        for (std::size_t c = 0; c < customers; ++c)
+            customerPrice_[c] += passedOn_[p][c] * (plantPrice_[p] - before);
+    }
 }
 
 /// Keeps what is best, and shortens the steps when they don't get higher.
@@ -111,8 +151,8 @@ void Bound::evaluate() {
     const std::size_t warehouses = network_->warehouses.size();
     timesServed_.assign(network_->customers.size(), 0);
     plantOutput_.assign(network_->plants.size(), 0);
-    unitCost_.assign(warehouses, 0);
-    throughput_.assign(warehouses, 0);
+    unitCost_.resize(warehouses);
+    throughput_.resize(warehouses);
     present_ = 0;
     for (std::size_t c = 0; c < customerPrice_.size(); ++c)
         present_ += network_->customers[c].sales * customerPrice_[c];

@@ -35,16 +35,22 @@ struct Range {
 ///
 /// because an allocation adds up to at least L with customers, plants and warehouses paying each other.
 /// The best prices make L at least as high as the linear relaxation, in which a warehouse may serve a share
-/// of a customer. They are found by steps along the subgradient, of the length of Polyak. Sources: Geoffrion,
-/// "Lagrangean relaxation for integer programming", Mathematical Programming Study 2 (1974); Held, Wolfe and
-/// Crowder, "Validation of subgradient optimization", Mathematical Programming 6 (1974).
+/// of a customer. They are found by steps of the length of Polyak along the subgradient, each bent towards
+/// the step before where the two point apart. Two things keep the steps from going to and fro. What a plant
+/// asks more is passed on to the customers whose goods it makes in the allocation to start from: a step
+/// changes u and, beside u, what v is above the u passed on. And the units in which changes are measured are
+/// such that both count alike. Sources: Geoffrion, "Lagrangean relaxation for integer programming",
+/// Mathematical Programming Study 2 (1974); Held, Wolfe and Crowder, "Validation of subgradient
+/// optimization", Mathematical Programming 6 (1974); Camerini, Fratta and Maffioli, "On improving relaxation
+/// methods by modified gradient techniques", Mathematical Programming Study 3 (1975).
 class Bound {
   public:
-    /// Starts from what things cost in an allocation, for throughputs of every size.
+    /// Starts from what things cost in an allocation, for throughputs of every size. The network outlives it.
     Bound(const Network& network, const Allocation& allocation);
+    Bound(Network&& network, const Allocation& allocation) = delete;
 
     /// The same prices once more, for a part of the ranges.
-    Bound(const Bound& whole, std::size_t warehouse, Range part);
+    Bound(Bound whole, std::size_t warehouse, Range part);
 
     /// The highest L so far, $ a year.
     double value() const { return best_; }
@@ -68,20 +74,25 @@ class Bound {
     const Range& range(std::size_t warehouse) const { return ranges_[warehouse]; }
 
   private:
+    std::vector<double> subgradient() const;
+    void bend(const std::vector<double>& subgradient);
+    void move(double stride);
     void evaluate();
     double serve(std::size_t warehouse);
     double chooseUpTo(std::size_t warehouse, std::size_t source);
     void learn();
 
     const Network* network_;
-    double meanCapacity_;
+    double plantUnit_; ///< cwt.: so much of a plant's output counts as one customer
     std::vector<Range> ranges_;
+    std::vector<std::vector<double>> passedOn_;              ///< by plant, the share of each customer's goods
     std::vector<double> customerPrice_;                      ///< v, $/cwt.
     std::vector<double> plantPrice_;                         ///< u, $/cwt.
     std::vector<double> unitCost_;                           ///< s, $/cwt.
     std::vector<double> throughput_;                         ///< of the sets S
     std::vector<double> plantOutput_;                        ///< that they call for
     std::vector<double> timesServed_;                        ///< each customer, with shares
+    std::vector<double> direction_;                          ///< of the last step: customers, then plants
     std::vector<double> meanThroughput_, meanInventoryCost_; ///< over the last steps
     double present_ = 0;                                     ///< L
     double best_ = 0;

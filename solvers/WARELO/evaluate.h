@@ -14,7 +14,7 @@ struct Evaluation {
     std::vector<wareloca::Flow> flows; ///< none where there is no plan
 };
 
-/// A case is searched for so many seconds at most. The search takes a fraction of one.
+/// A case is searched for so many seconds at most. The search takes a second or two.
 constexpr double usualSeconds = 60;
 
 /// The case in FIL.DAT of a folder with the selection in OLDSOL.DAT there. std::runtime_error with a message

@@ -19,14 +19,9 @@ constexpr int stepsPerHalf = 80;
 constexpr double goodEnough = 1E-7; // of the cost
 constexpr double wellEnough = 5E-5; // of the cost: not worth halving ranges for
 
-/// How long ranges are halved: `work` is customers x warehouses x steps.
-struct Effort {
-    int halvings;
-    double work;
-};
-constexpr Effort usualEffort = {100, 4E+7};       // less than a second
-constexpr Effort effortForWideGap = {3000, 1E+9}; // some seconds
-constexpr double wideGap = 1E-3;                  // of the cost
+/// How long ranges are halved, for a second or so; work is customers x warehouses x steps.
+constexpr int mostHalvings = 100;
+constexpr double mostWork = 4E+7;
 
 /// The best of both so far, told whenever it gets better.
 class Progress {
@@ -113,9 +108,7 @@ class Halving {
 
   private:
     bool isWorthWhile(int halving) const {
-        const double gap = progress_.found().gap();
-        const Effort& effort = gap > wideGap ? effortForWideGap : usualEffort;
-        return gap > wellEnough && halving < effort.halvings && work_ < effort.work;
+        return progress_.found().gap() > wellEnough && halving < mostHalvings && work_ < mostWork;
     }
 
     Bound raised(Bound bound) {

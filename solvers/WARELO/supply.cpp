@@ -8,7 +8,7 @@ namespace vantore::warelo {
 
 namespace {
 
-constexpr double unreached = std::numeric_limits<double>::max();
+constexpr double unreached = std::numeric_limits<double>::infinity();
 
 /// Of the costs of a cwt.: shorter by less is not shorter, so that rounding makes no circle of ways.
 constexpr double relativeTolerance = 1E-12;
@@ -28,7 +28,7 @@ class Flows {
 
     void supply(std::size_t warehouse, double amount) {
         while (amount > 0) {
-            const std::size_t plant = cheapestFor(warehouse);
+            const std::size_t plant = takerOver(warehouse, cheapestFor(warehouse));
             const double step = std::min(amount, mostAlong(plant));
             if (step <= 0) return; // nothing is left but what rounding has lost
             send(plant, warehouse, step);
@@ -61,7 +61,6 @@ class Flows {
         std::size_t best = 0;
         double least = unreached;
         for (std::size_t p = 0; p < toSlack_.size(); ++p) {
-            if (toSlack_[p] == unreached) continue;
             const double price = cost(p, warehouse) + toSlack_[p];
             if (price < least) {
                 least = price;
@@ -71,22 +70,31 @@ class Flows {
         return best;
     }
 
+    bool handsOn(std::size_t plant) const { return left_[plant] <= 0 && next_[plant] != plant; }
+
+    /// The plant that supplies a warehouse in the end where one after the other hands on over this very
+    /// warehouse. Those between would get as much as they give, and what they have there now would only limit
+    /// the step.
+    std::size_t takerOver(std::size_t warehouse, std::size_t plant) const {
+        while (handsOn(plant) && over_[plant] == warehouse) plant = next_[plant];
+        return plant;
+    }
+
+    std::size_t takerFrom(std::size_t plant) const { return takerOver(over_[plant], next_[plant]); }
+
     /// How much the way from a plant to one with capacity left can take on.
     double mostAlong(std::size_t plant) {
         double most = unreached;
-        for (; left_[plant] <= 0; plant = next_[plant]) {
-            if (next_[plant] == plant) return 0;
-            most = std::min(most, flow(plant, over_[plant]));
-        }
+        for (; handsOn(plant); plant = takerFrom(plant)) most = std::min(most, flow(plant, over_[plant]));
         return std::min(most, left_[plant]);
     }
 
     void send(std::size_t plant, std::size_t warehouse, double amount) {
         flow(plant, warehouse) += amount;
-        while (left_[plant] <= 0) {
+        while (handsOn(plant)) {
             const std::size_t over = over_[plant];
             flow(plant, over) -= amount;
-            plant = next_[plant];
+            plant = takerFrom(plant);
             flow(plant, over) += amount;
         }
         left_[plant] -= amount;
@@ -112,7 +120,7 @@ class Flows {
         for (std::size_t w = 0; w < network_.warehouses.size(); ++w) {
             if (flow(p, w) <= 0) continue;
             for (std::size_t q = 0; q < left_.size(); ++q) {
-                if (q == p || toSlack_[q] == unreached) continue;
+                if (q == p) continue;
                 const double length = cost(q, w) - cost(p, w) + toSlack_[q];
                 if (length >= toSlack_[p] - tolerance_) continue;
                 toSlack_[p] = length;

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "location/COG/report.h"
 #include "shell/forms/visible_operations.h"
 
@@ -25,6 +27,32 @@ TEST(CogReport, PutsTheFiguresOfARowUnderTheirHeadings) {
               "        0           2.750             14            1,234.50 <-- COG");
     EXPECT_EQ(rowOf({12, {2.75, 1400}, 1234}),
               "       12           2.750          1,400               1,234");
+}
+
+TEST(CogReport, EndsTheNumberOfACycleInOneColumn) {
+    const auto begin = [](int number) { return rowOf({number, {1, 2}, 3}).substr(0, 12); };
+    EXPECT_EQ(begin(9), "        9   ");
+    EXPECT_EQ(begin(10), "       10   ");
+    EXPECT_EQ(begin(99), "       99   ");
+    EXPECT_EQ(begin(100), "      100   ");
+    EXPECT_EQ(begin(999), "      999   ");
+    EXPECT_EQ(begin(1000), "     1000   ");
+}
+
+TEST(CogReport, StandsInItsPlaceOnEveryScreen) {
+    PictureSurface picOut("picOut", {}, {2, 3});
+    const auto lastPlace = [&] {
+        const SurfaceText& text = textOf(picOut.operations().back());
+        return std::pair(text.x, text.y);
+    };
+    printTableHeading(picOut, {2, 3});
+    EXPECT_EQ(lastPlace(), std::pair(16.0, 144.0));
+    printCycle(picOut, {2, 3}, {1, {1, 2}, 3}, {});
+    EXPECT_EQ(lastPlace(), std::pair(16.0, 240.0));
+    printCycle(picOut, {2, 3}, {20, {1, 2}, 3}, {});
+    EXPECT_EQ(lastPlace(), std::pair(16.0, 1200.0));
+    printSpecified(picOut, {2, 3}, "1", "2", 3);
+    EXPECT_EQ(lastPlace(), std::pair(16.0 + 15 * 16, 192.0));
 }
 
 TEST(CogReport, ShowsACostOfAnyLength) {

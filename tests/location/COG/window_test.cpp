@@ -95,6 +95,38 @@ TEST(CogWindow, KeepsTheFacilityOfTheLastLocationThatWasFound) {
     EXPECT_NE(session.play("surface").find("\"2.50\""), std::string::npos);
 }
 
+TEST(CogWindow, OffersNoPlotOfASolveThatCameToNothing) {
+    ModuleSession session;
+    opened(session).play("answer 1\nanswer No\npress cmdSolve\npress cmdContinue");
+    EXPECT_EQ(
+        session.play("answer 2\nanswer 500\npress cmdSolve\nshow cmdPlot\nshow cmdPrintTB\nshow cmdContinue"),
+        "InputBx \"Solution options\": \"Facility coordinates:\\n(1) Compute them\\n(2) Specify them\" "
+        "[\"1\"] -> \"2\"\n"
+        "InputBx \"\": \"Specified X coordinate is?\" [\"Enter value\"] -> \"500\"\n"
+        "cmdPlot: hidden enabled \"P&lot\"\ncmdPrintTB: hidden enabled \"&Print\"\n"
+        "cmdContinue: visible enabled \"&Continue\"\n");
+}
+
+TEST(CogWindow, OffersNoPlotOfACycleThatFailed) {
+    ModuleSession session;
+    session.writeFile("COG01.dat", "\"None\",.5,1\r\n1\r\n\"A\",1,2,0,1\r\n");
+    session.open("COG", "COG01.dat");
+    const std::string told =
+        session.play("answer 1\nanswer Yes\npress cmdSolve\nshow cmdPlot\nshow cmdContinue");
+    EXPECT_TRUE(told.ends_with("\"Division by zero occurred in COG Solver.\"\n"
+                               "cmdPlot: hidden enabled \"P&lot\"\n"
+                               "cmdContinue: visible enabled \"&Continue\"\n"))
+        << told;
+}
+
+TEST(CogWindow, DrawsAFacilityThatCostsNothing) {
+    ModuleSession session;
+    session.writeFile("COG01.dat", "\"One\",.5,1\r\n1\r\n\"A\",1,0,5,1\r\n");
+    session.open("COG", "COG01.dat");
+    session.play("answer 2\nanswer 1\nanswer 0\npress cmdSolve\nanswer No\npress cmdPlot");
+    EXPECT_NE(session.play("surface").find("circle 560 390 6 colour 12 filled"), std::string::npos);
+}
+
 TEST(CogWindow, EndsAnOverflowInAMessage) {
     ModuleSession session;
     opened(session);

@@ -57,6 +57,17 @@ TEST(SingleFacility, FollowsTheHeavierOfTwoPoints) {
     EXPECT_EQ(facility.location.y, 5);
 }
 
+TEST(SingleFacility, ComesBackHalfwayWhereAStepHasRaisedTheCost) {
+    // The mean is B itself. A pulls by 6, C by 9, and the second derivatives (in lengths along the line) are
+    // 6 / 3 + 9 / 2: the first step goes 3 / 6.5 beyond B, to x = 33 / 13, and costs more. Halfway between
+    // the last two places, again and again, ends two thirds of the way.
+    const std::vector<Point> points = {{"A", 6, 12, 6, 1}, {"B", 3, 6, 6, 1}, {"C", 1, 2, 9, 1}};
+    const Facility facility = singleFacility(points);
+    EXPECT_NEAR(facility.location.x, (3 + 2 * 33.0 / 13) / 3, 1E-12);
+    EXPECT_NEAR(facility.location.y, (6 + 2 * 66.0 / 13) / 3, 1E-12);
+    EXPECT_NEAR(facility.cost, std::sqrt(5.0) / 13 * (6 * 43 + 6 * 4 + 9 * 22), 1E-9);
+}
+
 TEST(SingleFacility, NeedsAWeight) {
     const std::vector<Point> points = {{"A", 1, 2, 0, 1}, {"B", 3, 4, 0, 1}};
     EXPECT_EQ(errorOf([&] { singleFacility(points); }), ErrorNumber::DivisionByZero);

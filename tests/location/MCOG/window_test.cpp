@@ -134,6 +134,13 @@ TEST_F(McogWindow, DrawsPointsFacilitiesLinesAndFigures) {
     EXPECT_TRUE(drawn("text 400 416 \"X coordinates in 1s\" Arial 7 bold colour 0"));
 }
 
+TEST_F(McogWindow, DrawsAFacilityThatServesTheLastPointAlone) {
+    session.play("answer 2\nanswer 2\nanswer 10\nanswer 20\nanswer 40\nanswer 48\n"
+                 "answer 1\nanswer 1\nanswer 1\nanswer 2\npress cmdSolve\nanswer No\npress cmdPlot");
+    EXPECT_TRUE(drawn("circle 560 82 6 colour 12 filled"));
+    EXPECT_TRUE(drawn("text 8 80 \"2-       40.00,      48.00\" Arial 7 bold colour 0"));
+}
+
 TEST_F(McogWindow, LeavesThePlotWithoutNumbersWhenNoneAreWanted) {
     solve();
     session.play("answer No\npress cmdPlot");

@@ -88,7 +88,7 @@ void addPlants(Dice& dice, Case& problem, int most, double sales) {
         Plant& plant = problem.plants(i);
         place(dice, plant, "P", i);
         plant.productionCost = dice.typed(dice.between(5, 30));
-        if (i == 1 || dice.chance(.7)) plant.selection = wareloca::mark;
+        if (i == 1 || dice.chance(.7)) plant.selection = mark;
         plant.capacity = dice.typed(sales * dice.between(.1, 1));
         if (plant.selected()) capacity += plant.capacity;
     }
@@ -109,7 +109,7 @@ Case randomCase(std::mt19937& random, CaseSize most) {
     for (int i = 1; i <= problem.warehouseCount; ++i) {
         problem.warehouses(i) = randomWarehouse(dice);
         place(dice, problem.warehouses(i), "W", i);
-        if (i == 1 || dice.chance(.6)) problem.warehouses(i).selection = wareloca::mark;
+        if (i == 1 || dice.chance(.6)) problem.warehouses(i).selection = mark;
     }
     return problem;
 }
@@ -117,8 +117,8 @@ Case randomCase(std::mt19937& random, CaseSize most) {
 Case freeCase() {
     Case problem;
     problem.plantCount = problem.warehouseCount = problem.customerCount = 1;
-    problem.plants(1) = {.x = 40, .y = 80, .location = "P", .capacity = 100, .selection = wareloca::mark};
-    problem.warehouses(1) = {.x = 40, .y = 80, .location = "W", .selection = wareloca::mark};
+    problem.plants(1) = {.x = 40, .y = 80, .location = "P", .capacity = 100, .selection = mark};
+    problem.warehouses(1) = {.x = 40, .y = 80, .location = "W", .selection = mark};
     problem.customers(1) = {.region = 1, .x = 40, .y = 80, .sales = 10, .location = "C"};
     return problem;
 }

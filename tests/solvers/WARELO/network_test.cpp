@@ -90,7 +90,7 @@ TEST(WareloNetwork, HoldsSelectedRowsWithWhatACwtCosts) {
     problem.plantCount = problem.warehouseCount = 2;
     problem.customerCount = 3;
     problem.plants(2) = {
-        .x = 41, .y = 80, .location = "Q", .capacity = 50, .productionCost = 7, .selection = wareloca::mark};
+        .x = 41, .y = 80, .location = "Q", .capacity = 50, .productionCost = 7, .selection = mark};
     problem.plants(1).capacity = 0;
     problem.warehouses(2) = problem.warehouses(1);
     problem.warehouses(1).selection = "";

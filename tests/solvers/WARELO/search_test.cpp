@@ -86,10 +86,9 @@ Case baseCaseWith(std::mt19937& random) {
     Case problem = tests::baseCase();
     std::bernoulli_distribution half(.5);
     do {
-        for (int p = 1; p <= problem.plantCount; ++p)
-            problem.plants(p).selection = half(random) ? wareloca::mark : "";
+        for (int p = 1; p <= problem.plantCount; ++p) problem.plants(p).selection = half(random) ? mark : "";
         for (int w = 1; w <= problem.warehouseCount; ++w)
-            problem.warehouses(w).selection = half(random) ? wareloca::mark : "";
+            problem.warehouses(w).selection = half(random) ? mark : "";
     } while (faultIn(problem));
     return problem;
 }
@@ -103,6 +102,36 @@ TEST(WareloSearch, ProvesRandomSelectionsWithinAThousandth) {
     for (int i = 0; i < 5; ++i) EXPECT_LT(best(baseCaseWith(random)).gap(), 1E-3) << "selection " << i;
 }
 
+/// The base case with these rows selected.
+Case baseCaseWith(const std::vector<int>& plants, const std::vector<int>& warehouses) {
+    Case problem = tests::baseCase();
+    for (int p = 1; p <= problem.plantCount; ++p) problem.plants(p).selection.clear();
+    for (int w = 1; w <= problem.warehouseCount; ++w) problem.warehouses(w).selection.clear();
+    for (const int p : plants) problem.plants(p).selection = mark;
+    for (const int w : warehouses) problem.warehouses(w).selection = mark;
+    return problem;
+}
+
+TEST(WareloSearch, ProvesASelectionOfScarcePlantsWithinAFewTenThousandths) {
+    EXPECT_LT(best(baseCaseWith({3, 4, 5, 6}, {4, 5, 7, 27, 46})).gap(), 2E-4);
+}
+
+/// Raises a bound on the base case for so many steps.
+double raisedBound(int steps) {
+    const Network network = networkOf(tests::baseCase());
+    Found first;
+    search(network, [&](const Found& found) {
+        if (first.allocation.empty()) first = found;
+    });
+    Bound bound(network, first.allocation);
+    for (int step = 0; step < steps; ++step) bound.step(first.cost);
+    return bound.value();
+}
+
+TEST(WareloBound, IsNearItsHighestAfterAHundredSteps) {
+    EXPECT_GT(raisedBound(100), .9998 * raisedBound(1000));
+}
+
 TEST(WareloSearch, ComesWithinAThousandthOfTheLinearRelaxation) {
     std::mt19937 random(6);
     for (int i = 0; i < 3; ++i) {
@@ -111,7 +140,7 @@ TEST(WareloSearch, ComesWithinAThousandthOfTheLinearRelaxation) {
             if (w % 4 != i) problem.warehouses(w).selection = "";
         for (int c = 1; c <= problem.customerCount; ++c)
             if (c % 6 != i) problem.customers(c).sales = 0;
-        problem.warehouses(1).selection = wareloca::mark;
+        problem.warehouses(1).selection = mark;
         const double relaxation = tests::linearBound(problem, 8);
         const Found found = best(problem);
         EXPECT_GE(found.cost, relaxation * (1 - 1E-9));
@@ -141,10 +170,42 @@ TEST(LocalSearch, ClosesAWarehouseThatDoesNotPay) {
     EXPECT_EQ(together[0], together[1]);
 }
 
+TEST(LocalSearch, ClosesAWarehouseWhoseCustomersPartToItsNeighbours) {
+    // A degree apart from each other lie three warehouses, each of them with an inventory of 30 $; halfway
+    // between them two customers of the middle one. Either of the others would serve one of them as well, and
+    // both of them for 10 x 69 miles x .1 $ more.
+    Case problem = tests::freeCase();
+    problem.warehouseCount = 3;
+    problem.customerCount = 4;
+    for (int w = 2; w <= 3; ++w) problem.warehouses(w) = problem.warehouses(1);
+    for (int c = 2; c <= 4; ++c) problem.customers(c) = problem.customers(1);
+    problem.warehouses(2).x = 41;
+    problem.warehouses(3).x = problem.customers(4).x = 42;
+    problem.customers(2).x = 40.5;
+    problem.customers(3).x = 41.5;
+    problem.plants(1).capacity = 1000;
+    problem.warehouseCustomerVariable = .1;
+    problem.inventoryConstant = 30;
+    problem.inventoryExponent = 0;
+    problem.productValue = 1;
+    problem.capitalCost = 100;
+    EXPECT_EQ(improved(networkOf(problem), {0, 1, 1, 2}), (Allocation{0, 0, 2, 2}));
+}
+
+TEST(WareloBound, PricesWarehousesThatServeNextToNothing) {
+    // An inventory costs 1 $ of any size, so that each warehouse would rather have it for both customers.
+    Case problem = twoTowns();
+    problem.customers(1).sales = problem.customers(2).sales = .25;
+    const Network network = networkOf(problem);
+    const Bound bound(network, {0, 1});
+    EXPECT_EQ(bound.warehousePrice(), (std::vector<double>{2, 2}));
+}
+
 TEST(WareloBound, IsExactAtTheStartWhereNothingPullsApart) {
     Case problem = twoTowns();
     problem.inventoryExponent = 1;
-    const Bound bound(networkOf(problem), {0, 1});
+    const Network network = networkOf(problem);
+    const Bound bound(network, {0, 1});
     EXPECT_NEAR(bound.value(), 20, 1E-9);
 }
 

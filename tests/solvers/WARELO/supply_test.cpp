@@ -49,6 +49,22 @@ TEST(CheapestSupply, HandsOnThroughSeveralPlants) {
     EXPECT_NEAR(supply.cost, 10 * 1 + 2 * 9 + 10 * 1 + 5 * 1, 1E-8);
 }
 
+TEST(CheapestSupply, IsNotHeldUpByTheLittleThatAFullPlantMakesForTheSameWarehouse) {
+    // Plant 1 spends its last millionth on warehouse 2, which can as well have the rest from plant 2 at once.
+    const Supply supply = cheapestSupply(network({10, 2000}, {{0, 1}, {10, 2}}), {10 - 1E-6, 1000});
+    EXPECT_NEAR(supply.flows(0, 0), 10 - 1E-6, 1E-8);
+    EXPECT_NEAR(supply.flows(0, 1), 1E-6, 1E-8);
+    EXPECT_NEAR(supply.flows(1, 1), 1000, 1E-5);
+}
+
+TEST(CheapestSupply, IsNotHeldUpByTheLittleThatPlantsHandOnOverTheSameWarehouse) {
+    // Plants 2 and 1 share warehouse 1 and are full; what plant 3 takes over there passes plant 1 by.
+    const Supply supply = cheapestSupply(network({10, 1000, 3000}, {{2, 0, 9}, {1, 0, 0}, {4, 20, 20}}),
+                                         {1000 + 1E-6, 10 - 1E-6, 900});
+    EXPECT_NEAR(supply.flows(2, 0), 900, 1E-5);
+    EXPECT_NEAR(supply.cost, 100 + 2E-6 + 900 * 4, 1E-3);
+}
+
 TEST(CheapestSupply, UsesUpTheWholeCapacity) {
     const Supply supply = cheapestSupply(network({.1, .2}, {{1, 2}, {2, 1}}), {.1 + .2, 0});
     EXPECT_NEAR(supply.flows(0, 0) + supply.flows(1, 0), .3, 1E-12);
