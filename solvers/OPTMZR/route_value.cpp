@@ -10,9 +10,6 @@ double above(double value, double limit) {
     return std::max(0.0, value - limit);
 }
 
-/// What loads and distances may be beyond a limit by rounding.
-constexpr double slack = 1E-08;
-
 void miss(Misses& misses, double value, double limit, double unit) {
     if (value <= limit + slack) return;
     ++misses.count;
@@ -55,20 +52,34 @@ void RouteJudge::penalise(RouteValue& value) const {
                       penalties_.distance * value.distance + penalties_.share * value.share;
 }
 
-RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
+/// Without penalties.
+RouteValue RouteJudge::legBound(const Fleet& fleet, const LegSums& sums) const {
     RouteValue value;
     value.cost = instance_.routeCost(fleet, sums.distance, sums.minutes);
-    const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
-                    std::max(sums.delivered.cube, sums.pickedUp.cube)};
-    value.load = overload(most, fleet.capacity);
     value.minutes = above(sums.minutes, instance_.maxMinutes) +
                     above(instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn);
     value.distance = above(sums.distance, instance_.maxDistance);
     if (strict_) {
-        miss(value.misses, most.weight, fleet.capacity.weight, fleet.capacity.weight);
-        miss(value.misses, most.cube, fleet.capacity.cube, fleet.capacity.cube);
         miss(value.misses, sums.distance, instance_.maxDistance, instance_.maxDistance);
         miss(value.misses, sums.minutes, instance_.maxMinutes, router::minutesPerHour);
+    }
+    return value;
+}
+
+RouteValue RouteJudge::bound(const Fleet& fleet, const LegSums& sums) const {
+    RouteValue value = legBound(fleet, sums);
+    penalise(value);
+    return value;
+}
+
+RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
+    RouteValue value = legBound(fleet, sums);
+    const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
+                    std::max(sums.delivered.cube, sums.pickedUp.cube)};
+    value.load = overload(most, fleet.capacity);
+    if (strict_) {
+        miss(value.misses, most.weight, fleet.capacity.weight, fleet.capacity.weight);
+        miss(value.misses, most.cube, fleet.capacity.cube, fleet.capacity.cube);
     }
     penalise(value);
     return value;
