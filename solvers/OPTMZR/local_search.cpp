@@ -154,9 +154,12 @@ RouteValue LocalSearch::valueOf(int fleet, const Splice& splice, const RouteSums
 }
 
 /// What the sums alone make a route cost at least.
-template <class Sums>
-double LocalSearch::bound(int fleet, const Splice& splice, const Sums& sums) const {
+double LocalSearch::bound(int fleet, const Splice& splice, const RouteSums& sums) const {
     return splice.empty() ? 0 : judge_.bound(instance_.fleet(fleet), sums).penalised;
+}
+
+double LocalSearch::legBound(int fleet, const Splice& splice, const LegSums& sums) const {
+    return splice.empty() ? 0 : judge_.legBound(instance_.fleet(fleet), sums);
 }
 
 /// Changes a route if that makes it better.
@@ -184,7 +187,7 @@ bool LocalSearch::accept(int a, const Splice& newA, int b, const Splice& newB) {
         presentCost(a) + presentCost(b) - leastGain - vehiclePenalty(fleetA, changeA, fleetB, changeB);
     const LegSums legsA = newA.legs(instance_);
     const LegSums legsB = newB.legs(instance_);
-    if (bound(fleetA, newA, legsA) + bound(fleetB, newB, legsB) >= present) return false;
+    if (legBound(fleetA, newA, legsA) + legBound(fleetB, newB, legsB) >= present) return false;
     const RouteSums sumsA{legsA, newA.loads()};
     const RouteSums sumsB{legsB, newB.loads()};
     const double boundB = bound(fleetB, newB, sumsB);

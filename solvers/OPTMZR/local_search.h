@@ -59,8 +59,8 @@ class LocalSearch {
     bool accept(int a, const Splice& newA);
     bool accept(int a, const Splice& newA, int b, const Splice& newB);
     RouteValue valueOf(int fleet, const Splice& splice, const RouteSums& sums, std::vector<int>& stops);
-    template <class Sums>
-    double bound(int fleet, const Splice& splice, const Sums& sums) const;
+    double bound(int fleet, const Splice& splice, const RouteSums& sums) const;
+    double legBound(int fleet, const Splice& splice, const LegSums& sums) const;
     double presentCost(int index) const { return route(index).empty() ? 0 : route(index).value().penalised; }
     double vehiclePenalty(int fleet, int change) const;
     double vehiclePenalty(int fleetA, int changeA, int fleetB, int changeB) const;

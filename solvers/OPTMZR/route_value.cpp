@@ -53,7 +53,7 @@ void RouteJudge::penalise(RouteValue& value) const {
 }
 
 /// Without penalties.
-RouteValue RouteJudge::legBound(const Fleet& fleet, const LegSums& sums) const {
+RouteValue RouteJudge::valueOfLegs(const Fleet& fleet, const LegSums& sums) const {
     RouteValue value;
     value.cost = instance_.routeCost(fleet, sums.distance, sums.minutes);
     value.minutes = above(sums.minutes, instance_.maxMinutes) +
@@ -66,14 +66,14 @@ RouteValue RouteJudge::legBound(const Fleet& fleet, const LegSums& sums) const {
     return value;
 }
 
-RouteValue RouteJudge::bound(const Fleet& fleet, const LegSums& sums) const {
-    RouteValue value = legBound(fleet, sums);
+double RouteJudge::legBound(const Fleet& fleet, const LegSums& sums) const {
+    RouteValue value = valueOfLegs(fleet, sums);
     penalise(value);
-    return value;
+    return value.penalised;
 }
 
 RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
-    RouteValue value = legBound(fleet, sums);
+    RouteValue value = valueOfLegs(fleet, sums);
     const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
                     std::max(sums.delivered.cube, sums.pickedUp.cube)};
     value.load = overload(most, fleet.capacity);

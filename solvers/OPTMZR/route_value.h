@@ -84,8 +84,8 @@ class RouteJudge {
     /// What no order of stops with these sums can be better than; the value itself where the order doesn't
     /// matter.
     RouteValue bound(const Fleet& fleet, const RouteSums& sums) const;
-    /// The same whatever the loads are.
-    RouteValue bound(const Fleet& fleet, const LegSums& sums) const;
+    /// What no route with these legs, whatever it carries, can cost less than, penalties included.
+    double legBound(const Fleet& fleet, const LegSums& sums) const;
 
     RouteOrder order(const RouteSums& sums, std::span<const int> stops);
     RouteValue value(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order,
@@ -102,7 +102,7 @@ class RouteJudge {
                     std::span<const int> stops) const;
     void missPickups(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
                      Misses& misses) const;
-    RouteValue legBound(const Fleet& fleet, const LegSums& sums) const;
+    RouteValue valueOfLegs(const Fleet& fleet, const LegSums& sums) const;
     void penalise(RouteValue& value) const;
 
     const Instance& instance_;

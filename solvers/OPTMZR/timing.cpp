@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <optional>
 
 namespace vantore::optmzr {
 
@@ -69,6 +68,15 @@ class Phases {
     Phase phase_;
 };
 
+/// Shows the phases in their order up to the latest return.
+template <class Action>
+void eachPhase(const Clock& clock, const TimedRoute& route, const Action& action) {
+    Phases phases(clock, route);
+    do {
+        action(phases.now());
+    } while (phases.now().from <= clock.latestReturn && phases.next());
+}
+
 /// The starts of a phase that keep all windows, and what is left when there are none.
 class Windows {
   public:
@@ -128,10 +136,11 @@ class Windows {
         return kept;
     }
 
-    Timing measured(double start) const {
+    /// What a start misses; not all of it where that is `enough` already.
+    Timing measured(double start, double enough = never) const {
         Timing result{.start = start, .latestStart = start, .breakMinutes = phase_.breakMinutes};
         result.tooLate = std::max(0.0, start + phase_.arrivals.back() - latestReturn_);
-        for (std::size_t i = 0; i < route_.open.size(); ++i) {
+        for (std::size_t i = 0; i < route_.open.size() && result.excess() < enough; ++i) {
             if (route_.open[i]->neverOpen()) continue;
             const double arrival = start + phase_.arrivals[i];
             double early = never;
@@ -152,7 +161,7 @@ class Windows {
         Timing best = measured(phase_.from);
         const auto consider = [&](double start) {
             if (start <= phase_.from || start > phase_.until) return;
-            const Timing timing = measured(start);
+            const Timing timing = measured(start, best.excess());
             if (timing.excess() < best.excess()) best = timing;
         };
         for (std::size_t i = 0; i < route_.open.size(); ++i) {
@@ -183,13 +192,15 @@ double latestStart(const Clock& clock, const TimedRoute& route) {
     return latest;
 }
 
-/// The starts of a phase at which a window begins or ends to be kept.
-std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route, const Phase& phase) {
-    std::vector<double> starts{phase.from};
+/// Tells the starts of a phase at which a window begins or ends to be kept.
+template <class Action>
+void eachDecisiveStart(const Clock& clock, const TimedRoute& route, const Phase& phase,
+                       const Action& action) {
+    action(phase.from);
     const auto consider = [&](double start) {
-        if (start > phase.from && start <= phase.until) starts.push_back(start);
+        if (start > phase.from && start <= phase.until) action(start);
     };
-    consider(phase.until < never ? phase.until : phase.from);
+    if (phase.until < never) consider(phase.until);
     consider(clock.latestReturn - phase.arrivals.back());
     for (std::size_t i = 0; i < route.open.size(); ++i) {
         for (const Window& window : route.open[i]->windows()) {
@@ -197,7 +208,6 @@ std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route
             consider(window.end - phase.arrivals[i]);
         }
     }
-    return starts;
 }
 
 /// Minutes from a clock to the nearest time at which a stop is open.
@@ -208,16 +218,16 @@ double minutesOutside(const OpeningHours& open, double clock) {
     return open.neverOpen() ? 0 : least;
 }
 
-/// The times that a start misses.
+/// The times that a start misses; not all of them where they are more than `most`.
 Misses missesAt(const Clock& clock, const TimedRoute& route, const Phase& phase, double start,
-                double maxMinutes) {
+                double maxMinutes, int most) {
     Misses misses;
     const auto miss = [&misses](double minutes) {
         if (minutes <= leastExcess) return;
         ++misses.count;
         misses.excess += minutes / router::minutesPerHour;
     };
-    for (std::size_t i = 0; i < route.open.size(); ++i)
+    for (std::size_t i = 0; i < route.open.size() && misses.count <= most; ++i)
         miss(minutesOutside(*route.open[i], start + phase.arrivals[i]));
     miss(start + phase.arrivals.back() - clock.latestReturn);
     miss(phase.arrivals.back() - maxMinutes);
@@ -252,29 +262,26 @@ Timing bestTiming(const Clock& clock, const TimedRoute& route) {
 }
 
 Timing leastMisses(const Clock& clock, const TimedRoute& route, double maxMinutes, Misses& misses) {
-    std::optional<Timing> best;
-    Phases phases(clock, route);
-    do {
-        const Phase& phase = phases.now();
-        for (const double start : decisiveStartsOf(clock, route, phase)) {
-            const Misses now = missesAt(clock, route, phase, start, maxMinutes);
-            if (best && (now.count > misses.count ||
-                         (now.count == misses.count && now.excess >= misses.excess - leastExcess)))
-                continue;
+    Timing best;
+    misses.count = std::numeric_limits<int>::max();
+    eachPhase(clock, route, [&](const Phase& phase) {
+        eachDecisiveStart(clock, route, phase, [&](double start) {
+            const Misses now = missesAt(clock, route, phase, start, maxMinutes, misses.count);
+            if (now.count > misses.count ||
+                (now.count == misses.count && now.excess >= misses.excess - leastExcess))
+                return;
             misses = now;
-            best = Timing{.start = start, .latestStart = start, .breakMinutes = phase.breakMinutes};
-        }
-    } while (phases.now().from <= clock.latestReturn && phases.next());
-    return *best;
+            best = {.start = start, .latestStart = start, .breakMinutes = phase.breakMinutes};
+        });
+    });
+    return best;
 }
 
 std::vector<double> decisiveStarts(const Clock& clock, const TimedRoute& route) {
     std::vector<double> starts;
-    Phases phases(clock, route);
-    do {
-        const std::vector<double> ofPhase = decisiveStartsOf(clock, route, phases.now());
-        starts.insert(starts.end(), ofPhase.begin(), ofPhase.end());
-    } while (phases.now().from <= clock.latestReturn && phases.next());
+    eachPhase(clock, route, [&](const Phase& phase) {
+        eachDecisiveStart(clock, route, phase, [&](double start) { starts.push_back(start); });
+    });
     std::sort(starts.begin(), starts.end());
     starts.erase(std::unique(starts.begin(), starts.end()), starts.end());
     return starts;
