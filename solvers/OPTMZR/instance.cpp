@@ -147,9 +147,12 @@ void Instance::takeFleets(const Problem& problem) {
 void Instance::takeLimits(const Problem& problem) {
     clock.earliestStart = inMinutes(problem.earliestStart);
     clock.latestReturn = inMinutes(problem.latestReturn);
+    clockAtNight = clock;
     for (int k = 1; k <= router::breakCount; ++k) {
         const router::Break& pause = problem.breaks(k);
-        if (pause.duration != 0 && pause.beginsAfter < problem.latestReturn) clock.breaks.push_back(pause);
+        if (pause.duration == 0) continue;
+        clockAtNight.breaks.push_back(pause);
+        if (pause.beginsAfter < problem.latestReturn) clock.breaks.push_back(pause);
     }
     maxMinutes = inMinutes(router::minutesPerHour * problem.maxTime);
     maxDistance = inParts(problem.maxDistance, distanceUnit_);

@@ -55,7 +55,8 @@ struct Instance {
     int stopCount = 0;
     std::vector<Customer> customers; ///< by stop number, the depot first
     std::vector<Fleet> fleets;
-    Clock clock;
+    Clock clock;        ///< without breaks that fall due after the latest return
+    Clock clockAtNight; ///< with those too, for routes that return late
     double maxMinutes = 0;
     double maxDistance = 0;
     double overtimeAfter = 0; ///< minutes

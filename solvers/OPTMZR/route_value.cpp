@@ -62,6 +62,8 @@ RouteValue RouteJudge::valueOfLegs(const Fleet& fleet, const LegSums& sums) cons
     if (strict_) {
         miss(value.misses, sums.distance, instance_.maxDistance, instance_.maxDistance);
         miss(value.misses, sums.minutes, instance_.maxMinutes, router::minutesPerHour);
+        miss(value.misses, instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn,
+             router::minutesPerHour);
     }
     return value;
 }
@@ -90,9 +92,9 @@ RouteOrder RouteJudge::order(const RouteSums& sums, std::span<const int> stops) 
     if (instance_.loadsMix) carry(sums, stops, order);
     if (!instance_.clockMatters && !strict_) return order;
     const TimedRoute route = timedRoute(stops);
-    if (instance_.clockMatters) order.timing = bestTiming(instance_.clock, route);
+    order.timing = bestTiming(instance_.clock, route);
     if (strict_ && order.timing.excess() > 0)
-        order.timing = leastMisses(instance_.clock, route, instance_.maxMinutes, order.misses);
+        order.timing = leastMisses(instance_.clockAtNight, route, instance_.maxMinutes, order.misses);
     return order;
 }
 
@@ -105,7 +107,7 @@ RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, const Ro
                            fleet.capacity.cube * instance_.pickupShare};
         value.share = instance_.pickupShare >= 1 ? 0 : overload(order.leftAtPickup, allowed);
     }
-    if (instance_.clockMatters) {
+    if (instance_.clockMatters || strict_) {
         const double minutes = sums.minutes + order.timing.breakMinutes;
         value.cost = instance_.routeCost(fleet, sums.distance, minutes);
         value.minutes = above(minutes, instance_.maxMinutes) + order.timing.excess();

@@ -206,22 +206,6 @@ TEST(LocalSearch, GivesEachRouteTheVehicleThatFits) {
     for (const FleetRoute& route : solution) EXPECT_EQ(route.stops.size(), route.fleet == 0 ? 1U : 3U);
 }
 
-TEST(RouteJudge, IsNeverBelowItsBound) {
-    RandomProblems problems(33);
-    Dice dice(7);
-    for (int trial = 0; trial < 300; ++trial) {
-        const router::Problem problem = problems.next(problems.from(1, 10));
-        const Instance instance(problem, router::Travel(problem));
-        RouteJudge judge(instance, firstPenalties(instance));
-        std::vector<int> stops = upTo(instance.stopCount);
-        dice.shuffle(stops);
-        const RouteSums sums = sumsOf(instance, stops);
-        for (const Fleet& fleet : instance.fleets)
-            ASSERT_LE(judge.bound(fleet, sums).penalised,
-                      judge.value(fleet, sums, stops).penalised + rounding);
-    }
-}
-
 TEST(Savings, JoinsRoutesWhereThatPays) {
     RandomProblems problems(44);
     for (int trial = 0; trial < 50; ++trial) {
