@@ -11,7 +11,7 @@ namespace {
 
 constexpr double never = std::numeric_limits<double>::infinity();
 constexpr double leastExcess = 1E-06; // minutes, or hours, that count
-constexpr double tick = 0x1p-24;      // minutes: what a start is past a break's time at least
+constexpr double tick = 0x1p-24;      // minutes: by what a start is before or past a break's time
 
 /// A span of starts in which the same breaks are taken at the same arrivals.
 struct Phase {
@@ -51,11 +51,12 @@ class Phases {
                 const double after = phase_.from + route_.arrivals[i] + phase_.breakMinutes;
                 const double left = clock_.breaks[k].beginsAfter - after;
                 if (isTaken[k]) continue;
-                if (i == 0 ? left <= 0 : left < 0) {
+                const bool isFirstLeg = i == 0; // on which a break is taken at its very time
+                if (isFirstLeg ? left <= 0 : left < 0) {
                     isTaken[k] = true;
                     phase_.breakMinutes += clock_.breaks[k].duration;
                 } else {
-                    phase_.until = std::min(phase_.until, phase_.from + left);
+                    phase_.until = std::min(phase_.until, phase_.from + left - (isFirstLeg ? tick : 0));
                 }
             }
             arrivals_[i] += phase_.breakMinutes;
@@ -160,15 +161,20 @@ class Windows {
     Timing leastExcessOfSplitHours() const {
         Timing best = measured(phase_.from);
         const auto consider = [&](double start) {
-            if (start <= phase_.from || start > phase_.until) return;
+            if (start <= phase_.from || start > phase_.until || start == never) return;
             const Timing timing = measured(start, best.excess());
             if (timing.excess() < best.excess()) best = timing;
         };
+        consider(phase_.until);
+        consider(latestReturn_ - phase_.arrivals.back());
         for (std::size_t i = 0; i < route_.open.size(); ++i) {
-            for (const Window& window : route_.open[i]->windows()) {
+            const std::span<const Window> windows = route_.open[i]->windows();
+            for (const Window& window : windows) {
                 consider(window.begin - phase_.arrivals[i]);
                 consider(window.end - phase_.arrivals[i]);
             }
+            // from there on the stop is too early for the second window rather than too late for the first
+            if (windows.size() > 1) consider((windows[0].end + windows[1].begin) / 2 - phase_.arrivals[i]);
         }
         return best;
     }

@@ -2,6 +2,8 @@
 
 #include "solvers/OPTMZR/judgement.h"
 #include "solvers/OPTMZR/plan_builder.h"
+#include "tests/routing/ROUTER/random_problems.h"
+#include "tests/solvers/OPTMZR/enumeration.h"
 #include "tests/solvers/OPTMZR/found.h"
 
 namespace vantore::optmzr::tests {
@@ -176,6 +178,27 @@ TEST_F(ThreeTowns, AreAllVisitedByAWholePlan) {
     EXPECT_TRUE(isWhole(problem_, withRoute(1, 2, {1})));
     plan.routeCount = 2;
     EXPECT_FALSE(isWhole(problem_, plan));
+}
+
+TEST(BestStart, IsAsGoodAsAnyStartOfARandomRoute) {
+    router::tests::RandomProblems problems(4711);
+    int kept = 0;
+    for (int trial = 0; trial < 1000; ++trial) {
+        const Problem problem = problems.next(problems.from(1, 8));
+        const router::Travel travel(problem);
+        PlannedRoute route = problems.route(problem);
+        route.start = bestStart(problem, travel, route);
+        const Judgement judgement = judged(problem, travel, route);
+        const BestOfAll best = enumeratedRoute(problem, route.vehicle, route.stops);
+        ASSERT_EQ(judgement.violations, best.violations) << "problem " << trial;
+        ASSERT_NEAR(judgement.excess, best.excess, 1E-07) << "problem " << trial;
+        ASSERT_LE(judgement.cost, best.cost * (1 + 1E-07)) << "problem " << trial;
+        if (best.violations > 0) continue;
+        ++kept;
+        ASSERT_NEAR(judgement.cost, best.cost, 1E-07 * best.cost) << "problem " << trial;
+    }
+    EXPECT_GT(kept, 100);
+    EXPECT_LT(kept, 900);
 }
 
 } // namespace

@@ -106,16 +106,15 @@ class PlainValue {
         return value;
     }
 
-    /// At a start, or next to it where rounding makes a break fall due there: what comes nearest to
-    /// `minutes`.
-    RouteValue closeTo(double start, double minutes) {
+    /// At a start, or next to it where rounding makes a break fall due there: what comes nearest to `value`.
+    RouteValue closeTo(double start, const RouteValue& value) {
         constexpr double little = 1E-06;
+        const auto far = [&value](const RouteValue& other) {
+            return std::abs(other.minutes - value.minutes) + std::abs(other.cost - value.cost);
+        };
         RouteValue closest = at(start);
-        for (const double next : {start - little, start + little}) {
-            const RouteValue value = at(next);
-            if (std::abs(value.minutes - minutes) + little < std::abs(closest.minutes - minutes))
-                closest = value;
-        }
+        for (const double next : {start - little, start + little})
+            if (const RouteValue nearby = at(next); far(nearby) + little < far(closest)) closest = nearby;
         return closest;
     }
 
@@ -168,7 +167,7 @@ TEST(RouteJudge, ValuesARouteAsTheSimulationDoes) {
         const RouteOrder order = judge.order(sums, stops);
         const RouteValue value = judge.value(fleet, sums, stops);
         const double start = instance.clockMatters ? order.timing.start : problem.earliestStart;
-        const RouteValue plain = PlainValue(problem, fleet.rows.front(), stops).closeTo(start, value.minutes);
+        const RouteValue plain = PlainValue(problem, fleet.rows.front(), stops).closeTo(start, value);
         ASSERT_NEAR(value.cost, plain.cost, agreement * (1 + plain.cost)) << "problem " << trial;
         ASSERT_NEAR(value.load, plain.load, agreement) << "problem " << trial;
         ASSERT_NEAR(value.minutes, plain.minutes, 1E-04) << "problem " << trial;
