@@ -82,10 +82,10 @@ void eachPhase(const Clock& clock, const TimedRoute& route, const Action& action
 class Windows {
   public:
     Windows(const Clock& clock, const TimedRoute& route, Phase phase)
-        : route_(route), phase_(phase), latestReturn_(clock.latestReturn) {}
+        : route_(route), phase_(phase), latestReturn_(clock.latestReturn), wholeDays_(startsForWholeDays()) {}
 
     Timing best() const {
-        const Window starts = startsForWholeDays();
+        const Window starts{std::max(phase_.from, wholeDays_.begin), std::min(phase_.until, wholeDays_.end)};
         if (starts.begin > starts.end) return leastExcess(starts);
         if (!hasSplitHours()) return timing(starts);
         const std::vector<Window> kept = startsForAllWindows(starts);
@@ -102,9 +102,9 @@ class Windows {
                            [](const OpeningHours* open) { return open->areSplit(); });
     }
 
-    /// As if each stop were open from its first opening to its last closing.
+    /// The starts that would do if each stop were open from its first opening to its last closing.
     Window startsForWholeDays() const {
-        Window starts{phase_.from, std::min(phase_.until, latestReturn_ - phase_.arrivals.back())};
+        Window starts{-never, latestReturn_ - phase_.arrivals.back()};
         for (std::size_t i = 0; i < route_.open.size(); ++i) {
             if (route_.open[i]->neverOpen()) continue;
             const Window day = route_.open[i]->wholeDay();
@@ -162,6 +162,9 @@ class Windows {
         Timing best = measured(phase_.from);
         const auto consider = [&](double start) {
             if (start <= phase_.from || start > phase_.until || start == never) return;
+            const double least =
+                std::max(0.0, wholeDays_.begin - start) + std::max(0.0, start - wholeDays_.end);
+            if (least >= best.excess()) return;
             const Timing timing = measured(start, best.excess());
             if (timing.excess() < best.excess()) best = timing;
         };
@@ -182,6 +185,7 @@ class Windows {
     const TimedRoute& route_;
     Phase phase_;
     double latestReturn_;
+    Window wholeDays_;
 };
 
 /// What there is where no breaks are.

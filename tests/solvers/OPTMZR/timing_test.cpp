@@ -69,6 +69,15 @@ TEST_F(ThreeStops, LeavesSoThatAllWindowsAreKept) {
     EXPECT_EQ(timing().excess(), 0);
 }
 
+TEST_F(ThreeStops, PaysNoHeedToAStopThatNeverOpens) {
+    open({openAt(0, all), openAt(500, 520), openAt(5, 4, 3, 2)});
+    EXPECT_EQ(timing().start, 430);
+    EXPECT_EQ(timing().latestStart, 450);
+    EXPECT_EQ(timing().excess(), 0);
+    clock_.breaks = {{20, 3000}};
+    EXPECT_EQ(timing().latestStart, 450);
+}
+
 TEST_F(ThreeStops, MeasuresWhatItCannotKeep) {
     open({openAt(500, 600), openAt(0, 520), openAt(0, all)});
     EXPECT_EQ(timing().excess(), 20); // from 470 on the first, until 450 the second
