@@ -93,7 +93,8 @@ RouteOrder RouteJudge::order(const RouteSums& sums, std::span<const int> stops) 
     if (!instance_.clockMatters && !strict_) return order;
     const TimedRoute route = timedRoute(stops);
     order.timing = bestTiming(instance_.clock, route);
-    if (strict_ && order.timing.excess() > 0)
+    const double minutes = sums.minutes + order.timing.breakMinutes;
+    if (strict_ && (order.timing.excess() > 0 || minutes > instance_.maxMinutes))
         order.timing = leastMisses(instance_.clockAtNight, route, instance_.maxMinutes, order.misses);
     return order;
 }

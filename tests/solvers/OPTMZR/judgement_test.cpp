@@ -126,6 +126,18 @@ TEST_F(ThreeTowns, CountTheVehiclesThatThereAreNot) {
     EXPECT_EQ(judgement.cost, 140);
 }
 
+TEST_F(ThreeTowns, HaveNoVehicleOfATypeWithoutAny) {
+    router::Vehicle vehicle = problem_.vehicles(1);
+    problem_.vehicles = {};
+    for (const double number : {0.0, -3.0}) {
+        vehicle.number = number;
+        problem_.vehicles.add(vehicle);
+    }
+    router::Plan plan = oneRouteAStop(problem_, router::Travel(problem_));
+    plan.routes(2).vehicle = 2;
+    expect(judged(problem_, router::Travel(problem_), plan), 3, 3);
+}
+
 TEST_F(ThreeTowns, AreLeftForAtTheFirstWholeMinuteThatKeepsTheWindows) {
     EXPECT_EQ(start({1, 2, 3}), 0);
     edit(2, 600.5, 700);

@@ -2,12 +2,11 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
-#include <sys/wait.h>
 
 #include "shell/base/text_file.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/module_session.h"
+#include "tests/support/solver_processes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -19,11 +18,6 @@ constexpr const char* input =
     "\"Depots\",2,1,1\r\n2\r\n\"Ames\",0,0,100,1,500,1\r\n\"Bend\",40,0,200,1,300,1\r\n1,2\r\n";
 constexpr const char* output = "2\r\n1,2\r\n2,2\r\n8300\r\n";
 
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// A folder with a FORRUN, and PMED.EXE run on it.
 class PmedProgram : public testing::Test {
   protected:
@@ -33,13 +27,10 @@ class PmedProgram : public testing::Test {
 
     /// The exit status; what the program says on standard error is in `complained_`.
     int solve() {
-        const std::string folder = folder_.path().string();
-        const int status = std::system(("VANTORE_IO='" + folder + "/' '" PMED_PROGRAM "' >'" + folder +
-                                        "/printed' 2>'" + folder + "/complained'")
-                                           .c_str());
-        complained_ = contents(folder_.path() / "complained");
-        EXPECT_EQ(contents(folder_.path() / "printed"), "");
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        const SolverRun run = runSolver(PMED_PROGRAM, folder_.path());
+        complained_ = run.complained;
+        EXPECT_EQ(run.printed, "");
+        return run.status;
     }
 
     bool hasOutput() const { return fs::exists(folder_.path() / "FOROUT"); }

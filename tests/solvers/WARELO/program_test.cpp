@@ -11,6 +11,7 @@
 #include "tests/solvers/WARELO/cases.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/module_session.h"
+#include "tests/support/solver_processes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::warelo {
@@ -18,22 +19,15 @@ namespace {
 
 namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
+using tests::contents;
+using tests::runIn;
+using tests::runSolver;
 
 const fs::path program = WARELO_PROGRAM;
 const std::string title = " EVALUATION OF THE LATHERN SOAP COMPANY'S NETWORK";
 
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void put(const fs::path& path, std::string_view bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
-}
-
-int run(const fs::path& folder, const std::string& command) {
-    const int status = std::system(("cd '" + folder.string() + "' && " + command).c_str());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 /// A folder with a case of two customers, and WARELO.EXE run on it.
@@ -54,10 +48,7 @@ class WareloProgram : public testing::Test {
         put(folder_.path() / "OLDSOL.DAT", selection_);
     }
 
-    int evaluate() const {
-        return run(folder_.path(), "VANTORE_IO='" + folder_.path().string() + "/' '" + program.string() +
-                                       "' >printed 2>complained");
-    }
+    int evaluate() const { return runSolver(program, folder_.path()).status; }
 
     fs::path file(const std::string& name) const { return folder_.path() / name; }
     Lines report() const { return readLines(file("OUTPUT.DAT")); }
@@ -122,7 +113,7 @@ TEST_F(WareloProgram, EndsWithAReportWhateverTheFilesHold) {
 
 TEST_F(WareloProgram, FailsWithoutAnyFolder) {
     fs::copy_file(program, file("WARELO.EXE"));
-    EXPECT_EQ(run(folder_.path(), "env -u VANTORE_IO ./WARELO.EXE 2>complained"), 1);
+    EXPECT_EQ(runIn(folder_.path(), "env -u VANTORE_IO ./WARELO.EXE 2>complained"), 1);
     EXPECT_EQ(contents(file("complained")), "WARELO.EXE: File not found\n");
 }
 
@@ -142,8 +133,8 @@ TEST_F(WareloProgram, ServesAllCustomersOfTheBaseCase) {
     for (const char* name : {"FIL.DAT", "OLDSOL.DAT"})
         fs::copy_file(fs::path(VANTORE_SOURCE_FOLDER) / "install" / name, file(name),
                       fs::copy_options::overwrite_existing);
-    EXPECT_EQ(run(folder_.path(),
-                  "VANTORE_IO='" + folder_.path().string() + "/' timeout 60 '" + program.string() + "'"),
+    EXPECT_EQ(runIn(folder_.path(),
+                    "VANTORE_IO='" + folder_.path().string() + "/' timeout 60 '" + program.string() + "'"),
               0);
     ItemReader flows(readTextFile(file("TEMP.DAT")));
     EXPECT_EQ(wareloca::readFlows(flows).size(), 191U);
