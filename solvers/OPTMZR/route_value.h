@@ -20,7 +20,7 @@ struct RouteValue {
     double minutes = 0;  ///< beyond windows, latest return and longest time
     double distance = 0; ///< beyond the longest distance
     double share = 0;    ///< still to be delivered at a pickup, beyond what is allowed
-    Misses misses; ///< limits broken, counted and measured as a plan is judged; in strict searches alone
+    Misses misses{}; ///< limits broken, counted and measured as a plan is judged; in strict searches alone
     double penalised = 0;
 
     double excess() const { return load + minutes + distance + share; }

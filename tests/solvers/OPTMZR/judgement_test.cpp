@@ -87,6 +87,22 @@ TEST_F(ThreeTowns, WeighWhatIsOnBoardOnTheWay) {
     expect(judgement({1, 3}, 2), 1, .3);             // 130 from the start
 }
 
+TEST_F(ThreeTowns, BearLoadsThatExceedACapacityByRoundingAlone) {
+    stops_.clear();
+    add(10, 1000.1, router::pickup);
+    add(20, 1000.2, router::pickup); // together 2000.3000000000002
+    edit(1, 0, 9999);
+    router::Vehicle vehicle = problem_.vehicles(1);
+    vehicle.weightCapacity = 2000.3;
+    vehicle.cubeCapacity = 2001;
+    problem_.vehicles = {};
+    problem_.vehicles.add(vehicle);
+    expect(judgement({1, 2}), 0, 0);
+    vehicle.weightCapacity = 2000.3 - 1E-09;
+    problem_.vehicles.add(vehicle);
+    EXPECT_EQ(judgement({1, 2}, 2).violations, 1);
+}
+
 TEST_F(ThreeTowns, AllowPickupsOnlyWhenLittleIsLeftToDeliver) {
     problem_.pickupPercent = 25;
     expect(judgement({1, 2, 3}), 0, 0); // 30 of 130 are left
