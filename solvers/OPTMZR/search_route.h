@@ -74,16 +74,18 @@ class Splice {
 
   private:
     struct Run {
-        const SearchRoute* route = nullptr;
-        int from = 0;
-        int to = 0; ///< before `from` where the run is passed backwards
+        const SearchRoute* route;
+        int from;
+        int to; ///< before `from` where the run is passed backwards
 
         int first() const { return from < to ? from : to; }
         int last() const { return from < to ? to : from; }
     };
     void add(Run run) { runs_[count_++] = run; }
 
-    std::array<Run, 5> runs_; ///< as many as any change takes
+    static constexpr std::size_t mostRuns = 5; // that any change takes
+
+    std::array<Run, mostRuns> runs_; ///< those beyond the count aren't set: most splices are soon forgotten
     std::size_t count_ = 0;
 };
 
