@@ -4,14 +4,14 @@
 //
 // Of published instances (the answers are in the folder of the instances) the best known cost, with plain
 // and, where the legs can be specified, with rounded distances; of PROBLEMS mixed ones (usually 60) the plan
-// that each was built around, and the savings construction with the local search. Times are of the search
-// alone.
+// that each was built around, and the savings construction with the local search. Times are the
+// processor's, of the search alone.
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -38,11 +38,11 @@ struct Result {
 };
 
 Result searched(const Problem& problem) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     Plan best;
     optmzr::search(problem, [&best](const Plan& plan) { best = plan; });
-    const std::chrono::duration<double> used = std::chrono::steady_clock::now() - start;
-    return {optmzr::judged(problem, Travel(problem), best), used.count()};
+    const std::clock_t used = std::clock() - start;
+    return {optmzr::judged(problem, Travel(problem), best), static_cast<double>(used) / CLOCKS_PER_SEC};
 }
 
 Judgement bySavings(const Problem& problem) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <utility>
 
 #include "solvers/OPTMZR/savings.h"
@@ -12,8 +11,6 @@ namespace vantore::optmzr {
 
 namespace {
 
-constexpr double beyondReach = std::numeric_limits<double>::max();
-constexpr double leastGain = 1E-09;
 constexpr int plansAtFirst = 60;
 constexpr int patience = 100;     // plans for each stop without a better one, before beginning anew
 constexpr int lastPatience = 200; // before ending
@@ -25,7 +22,6 @@ constexpr double cheaper = .85;
 constexpr double leastPenalty = 1E-04;
 constexpr double mostPenalty = 1E+05;
 constexpr double repairFactor = 10;
-constexpr double slack = 1E-08;
 
 /// Steps that a problem is worth, twice as many for each pair of stops of the largest one as of the smallest.
 long long stepsFor(int stopCount) {

@@ -54,8 +54,7 @@ Instance::Instance(const Problem& problem, const Travel& travel) : stopCount(pro
 
 void Instance::measureLegs(const Travel& travel) {
     const auto size = static_cast<std::size_t>(stopCount) + 1;
-    distances_.resize(size * size);
-    minutes_.resize(size * size);
+    legs_.resize(size * size);
     double longest = 0;
     const auto eachPair = [this](const auto& action) {
         for (int a = 0; a <= stopCount; ++a)
@@ -66,9 +65,8 @@ void Instance::measureLegs(const Travel& travel) {
     eachPair([&](int a, int b) {
         const router::Leg& leg = travel.leg(a, b);
         const double minutes = router::minutesPerHour * leg.distance / leg.speed;
-        distances_[place(a, b)] = distances_[place(b, a)] = inParts(leg.distance, distanceUnit_);
-        minutes_[place(a, b)] = minutes_[place(b, a)] =
-            std::isfinite(minutes) ? inMinutes(minutes) : withoutEnd;
+        legs_[place(a, b)] = legs_[place(b, a)] = {inParts(leg.distance, distanceUnit_),
+                                                   std::isfinite(minutes) ? inMinutes(minutes) : withoutEnd};
     });
 }
 
@@ -149,9 +147,12 @@ void Instance::takeFleets(const Problem& problem) {
 void Instance::takeLimits(const Problem& problem) {
     clock.earliestStart = inMinutes(problem.earliestStart);
     clock.latestReturn = inMinutes(problem.latestReturn);
+    clockAtNight = clock;
     for (int k = 1; k <= router::breakCount; ++k) {
         const router::Break& pause = problem.breaks(k);
-        if (pause.duration != 0 && pause.beginsAfter < problem.latestReturn) clock.breaks.push_back(pause);
+        if (pause.duration == 0) continue;
+        clockAtNight.breaks.push_back(pause);
+        if (pause.beginsAfter < problem.latestReturn) clock.breaks.push_back(pause);
     }
     maxMinutes = inMinutes(router::minutesPerHour * problem.maxTime);
     maxDistance = inParts(problem.maxDistance, distanceUnit_);

@@ -55,7 +55,8 @@ struct Instance {
     int stopCount = 0;
     std::vector<Customer> customers; ///< by stop number, the depot first
     std::vector<Fleet> fleets;
-    Clock clock;
+    Clock clock;        ///< without breaks that fall due after the latest return
+    Clock clockAtNight; ///< with those too, for routes that return late
     double maxMinutes = 0;
     double maxDistance = 0;
     double overtimeAfter = 0; ///< minutes
@@ -66,8 +67,8 @@ struct Instance {
     bool loadsMix = false;     ///< deliveries and pickups
     int stepsAStop = 1;        ///< that valuing a route takes, as a measure of time
 
-    double distance(int from, int to) const { return distances_[place(from, to)]; }
-    double minutes(int from, int to) const { return minutes_[place(from, to)]; }
+    double distance(int from, int to) const { return legs_[place(from, to)].distance; }
+    double minutes(int from, int to) const { return legs_[place(from, to)].minutes; }
 
     const Customer& customer(int stop) const { return customers[static_cast<std::size_t>(stop)]; }
     const Fleet& fleet(int index) const { return fleets[static_cast<std::size_t>(index)]; }
@@ -86,6 +87,10 @@ struct Instance {
     }
 
   private:
+    struct Leg {
+        double distance = 0;
+        double minutes = 0;
+    };
     std::size_t place(int from, int to) const {
         return static_cast<std::size_t>(from) * static_cast<std::size_t>(stopCount + 1) +
                static_cast<std::size_t>(to);
@@ -98,7 +103,7 @@ struct Instance {
 
     double distanceUnit_ = 1; ///< the problem's unit of distance, and so on
     Load loadUnit_{1, 1};
-    std::vector<double> distances_, minutes_;
+    std::vector<Leg> legs_; ///< from each place to each
 };
 
 } // namespace vantore::optmzr

@@ -10,9 +10,6 @@ double above(double value, double limit) {
     return std::max(0.0, value - limit);
 }
 
-/// What loads and distances may be beyond a limit by rounding.
-constexpr double slack = 1E-08;
-
 void miss(Misses& misses, double value, double limit, double unit) {
     if (value <= limit + slack) return;
     ++misses.count;
@@ -55,20 +52,36 @@ void RouteJudge::penalise(RouteValue& value) const {
                       penalties_.distance * value.distance + penalties_.share * value.share;
 }
 
-RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
+/// Without penalties.
+RouteValue RouteJudge::valueOfLegs(const Fleet& fleet, const LegSums& sums) const {
     RouteValue value;
     value.cost = instance_.routeCost(fleet, sums.distance, sums.minutes);
-    const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
-                    std::max(sums.delivered.cube, sums.pickedUp.cube)};
-    value.load = overload(most, fleet.capacity);
     value.minutes = above(sums.minutes, instance_.maxMinutes) +
                     above(instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn);
     value.distance = above(sums.distance, instance_.maxDistance);
     if (strict_) {
-        miss(value.misses, most.weight, fleet.capacity.weight, fleet.capacity.weight);
-        miss(value.misses, most.cube, fleet.capacity.cube, fleet.capacity.cube);
         miss(value.misses, sums.distance, instance_.maxDistance, instance_.maxDistance);
         miss(value.misses, sums.minutes, instance_.maxMinutes, router::minutesPerHour);
+        miss(value.misses, instance_.clock.earliestStart + sums.minutes, instance_.clock.latestReturn,
+             router::minutesPerHour);
+    }
+    return value;
+}
+
+double RouteJudge::legBound(const Fleet& fleet, const LegSums& sums) const {
+    RouteValue value = valueOfLegs(fleet, sums);
+    penalise(value);
+    return value.penalised;
+}
+
+RouteValue RouteJudge::bound(const Fleet& fleet, const RouteSums& sums) const {
+    RouteValue value = valueOfLegs(fleet, sums);
+    const Load most{std::max(sums.delivered.weight, sums.pickedUp.weight),
+                    std::max(sums.delivered.cube, sums.pickedUp.cube)};
+    value.load = overload(most, fleet.capacity);
+    if (strict_) {
+        miss(value.misses, most.weight, fleet.capacity.weight, fleet.capacity.weight);
+        miss(value.misses, most.cube, fleet.capacity.cube, fleet.capacity.cube);
     }
     penalise(value);
     return value;
@@ -79,9 +92,10 @@ RouteOrder RouteJudge::order(const RouteSums& sums, std::span<const int> stops) 
     if (instance_.loadsMix) carry(sums, stops, order);
     if (!instance_.clockMatters && !strict_) return order;
     const TimedRoute route = timedRoute(stops);
-    if (instance_.clockMatters) order.timing = bestTiming(instance_.clock, route);
-    if (strict_ && order.timing.excess() > 0)
-        order.timing = leastMisses(instance_.clock, route, instance_.maxMinutes, order.misses);
+    order.timing = bestTiming(instance_.clock, route);
+    const double minutes = sums.minutes + order.timing.breakMinutes;
+    if (strict_ && (order.timing.excess() > 0 || minutes > instance_.maxMinutes))
+        order.timing = leastMisses(instance_.clockAtNight, route, instance_.maxMinutes, order.misses);
     return order;
 }
 
@@ -94,7 +108,7 @@ RouteValue RouteJudge::value(const Fleet& fleet, const RouteSums& sums, const Ro
                            fleet.capacity.cube * instance_.pickupShare};
         value.share = instance_.pickupShare >= 1 ? 0 : overload(order.leftAtPickup, allowed);
     }
-    if (instance_.clockMatters) {
+    if (instance_.clockMatters || strict_) {
         const double minutes = sums.minutes + order.timing.breakMinutes;
         value.cost = instance_.routeCost(fleet, sums.distance, minutes);
         value.minutes = above(minutes, instance_.maxMinutes) + order.timing.excess();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <span>
 #include <vector>
@@ -8,6 +9,10 @@
 
 namespace vantore::optmzr {
 
+constexpr double leastGain = 1E-09; ///< of the dearest leg: what a better solution is better by
+constexpr double slack = 1E-08;     ///< excess by rounding, which is none
+constexpr double beyondReach = std::numeric_limits<double>::max(); ///< a cost that nothing has
+
 /// What a route comes to: its cost, and by how much it goes beyond its limits.
 struct RouteValue {
     double cost = 0;
@@ -15,7 +20,7 @@ struct RouteValue {
     double minutes = 0;  ///< beyond windows, latest return and longest time
     double distance = 0; ///< beyond the longest distance
     double share = 0;    ///< still to be delivered at a pickup, beyond what is allowed
-    Misses misses; ///< limits broken, counted and measured as a plan is judged; in strict searches alone
+    Misses misses{}; ///< limits broken, counted and measured as a plan is judged; in strict searches alone
     double penalised = 0;
 
     double excess() const { return load + minutes + distance + share; }
@@ -38,13 +43,20 @@ struct StrictPenalties {
     double excess = 0; ///< by how much, in the units of a judgement
 };
 
-/// What a route takes, whatever the order of its parts is timed like: the sums over its legs and stops.
-struct RouteSums {
+/// Sums over legs and the time at stops.
+struct LegSums {
     double distance = 0;
     double minutes = 0; ///< without breaks
+};
+
+/// Sums over stops.
+struct LoadSums {
     Load delivered;
     Load pickedUp;
 };
+
+/// What a route takes, whatever the order of its parts is timed like.
+struct RouteSums : LegSums, LoadSums {};
 
 /// What the order of a route's stops makes of them, in any vehicle.
 struct RouteOrder {
@@ -72,6 +84,8 @@ class RouteJudge {
     /// What no order of stops with these sums can be better than; the value itself where the order doesn't
     /// matter.
     RouteValue bound(const Fleet& fleet, const RouteSums& sums) const;
+    /// What no route with these legs, whatever it carries, can cost less than, penalties included.
+    double legBound(const Fleet& fleet, const LegSums& sums) const;
 
     RouteOrder order(const RouteSums& sums, std::span<const int> stops);
     RouteValue value(const Fleet& fleet, const RouteSums& sums, const RouteOrder& order,
@@ -88,6 +102,7 @@ class RouteJudge {
                     std::span<const int> stops) const;
     void missPickups(const Fleet& fleet, const RouteSums& sums, std::span<const int> stops,
                      Misses& misses) const;
+    RouteValue valueOfLegs(const Fleet& fleet, const LegSums& sums) const;
     void penalise(RouteValue& value) const;
 
     const Instance& instance_;

@@ -1,14 +1,12 @@
 #include "solvers/OPTMZR/split.h"
 
 #include <algorithm>
-#include <limits>
 #include <span>
 
 namespace vantore::optmzr {
 
 namespace {
 
-constexpr double beyondReach = std::numeric_limits<double>::max();
 constexpr double mostOverload = 1.5; // of a capacity, a time or a distance, that a route may be tried with
 
 std::vector<int> cut(const std::vector<int>& tour, std::size_t first, std::size_t last) {

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <optional>
 
 namespace vantore::optmzr {
 
@@ -12,7 +11,7 @@ namespace {
 
 constexpr double never = std::numeric_limits<double>::infinity();
 constexpr double leastExcess = 1E-06; // minutes, or hours, that count
-constexpr double tick = 0x1p-24;      // minutes: what a start is past a break's time at least
+constexpr double tick = 0x1p-24;      // minutes: by what a start is before or past a break's time
 
 /// A span of starts in which the same breaks are taken at the same arrivals.
 struct Phase {
@@ -52,11 +51,12 @@ class Phases {
                 const double after = phase_.from + route_.arrivals[i] + phase_.breakMinutes;
                 const double left = clock_.breaks[k].beginsAfter - after;
                 if (isTaken[k]) continue;
-                if (i == 0 ? left <= 0 : left < 0) {
+                const bool isFirstLeg = i == 0; // on which a break is taken at its very time
+                if (isFirstLeg ? left <= 0 : left < 0) {
                     isTaken[k] = true;
                     phase_.breakMinutes += clock_.breaks[k].duration;
                 } else {
-                    phase_.until = std::min(phase_.until, phase_.from + left);
+                    phase_.until = std::min(phase_.until, phase_.from + left - (isFirstLeg ? tick : 0));
                 }
             }
             arrivals_[i] += phase_.breakMinutes;
@@ -69,14 +69,23 @@ class Phases {
     Phase phase_;
 };
 
+/// Shows the phases in their order up to the latest return.
+template <class Action>
+void eachPhase(const Clock& clock, const TimedRoute& route, const Action& action) {
+    Phases phases(clock, route);
+    do {
+        action(phases.now());
+    } while (phases.now().from <= clock.latestReturn && phases.next());
+}
+
 /// The starts of a phase that keep all windows, and what is left when there are none.
 class Windows {
   public:
     Windows(const Clock& clock, const TimedRoute& route, Phase phase)
-        : route_(route), phase_(phase), latestReturn_(clock.latestReturn) {}
+        : route_(route), phase_(phase), latestReturn_(clock.latestReturn), wholeDays_(startsForWholeDays()) {}
 
     Timing best() const {
-        const Window starts = startsForWholeDays();
+        const Window starts{std::max(phase_.from, wholeDays_.begin), std::min(phase_.until, wholeDays_.end)};
         if (starts.begin > starts.end) return leastExcess(starts);
         if (!hasSplitHours()) return timing(starts);
         const std::vector<Window> kept = startsForAllWindows(starts);
@@ -93,9 +102,9 @@ class Windows {
                            [](const OpeningHours* open) { return open->areSplit(); });
     }
 
-    /// As if each stop were open from its first opening to its last closing.
+    /// The starts that would do if each stop were open from its first opening to its last closing.
     Window startsForWholeDays() const {
-        Window starts{phase_.from, std::min(phase_.until, latestReturn_ - phase_.arrivals.back())};
+        Window starts{-never, latestReturn_ - phase_.arrivals.back()};
         for (std::size_t i = 0; i < route_.open.size(); ++i) {
             if (route_.open[i]->neverOpen()) continue;
             const Window day = route_.open[i]->wholeDay();
@@ -128,10 +137,11 @@ class Windows {
         return kept;
     }
 
-    Timing measured(double start) const {
+    /// What a start misses; not all of it where that is `enough` already.
+    Timing measured(double start, double enough = never) const {
         Timing result{.start = start, .latestStart = start, .breakMinutes = phase_.breakMinutes};
         result.tooLate = std::max(0.0, start + phase_.arrivals.back() - latestReturn_);
-        for (std::size_t i = 0; i < route_.open.size(); ++i) {
+        for (std::size_t i = 0; i < route_.open.size() && result.excess() < enough; ++i) {
             if (route_.open[i]->neverOpen()) continue;
             const double arrival = start + phase_.arrivals[i];
             double early = never;
@@ -151,15 +161,23 @@ class Windows {
     Timing leastExcessOfSplitHours() const {
         Timing best = measured(phase_.from);
         const auto consider = [&](double start) {
-            if (start <= phase_.from || start > phase_.until) return;
-            const Timing timing = measured(start);
+            if (start <= phase_.from || start > phase_.until || start == never) return;
+            const double least =
+                std::max(0.0, wholeDays_.begin - start) + std::max(0.0, start - wholeDays_.end);
+            if (least >= best.excess()) return;
+            const Timing timing = measured(start, best.excess());
             if (timing.excess() < best.excess()) best = timing;
         };
+        consider(phase_.until);
+        consider(latestReturn_ - phase_.arrivals.back());
         for (std::size_t i = 0; i < route_.open.size(); ++i) {
-            for (const Window& window : route_.open[i]->windows()) {
+            const std::span<const Window> windows = route_.open[i]->windows();
+            for (const Window& window : windows) {
                 consider(window.begin - phase_.arrivals[i]);
                 consider(window.end - phase_.arrivals[i]);
             }
+            // from there on the stop is too early for the second window rather than too late for the first
+            if (windows.size() > 1) consider((windows[0].end + windows[1].begin) / 2 - phase_.arrivals[i]);
         }
         return best;
     }
@@ -167,6 +185,7 @@ class Windows {
     const TimedRoute& route_;
     Phase phase_;
     double latestReturn_;
+    Window wholeDays_;
 };
 
 /// What there is where no breaks are.
@@ -183,13 +202,15 @@ double latestStart(const Clock& clock, const TimedRoute& route) {
     return latest;
 }
 
-/// The starts of a phase at which a window begins or ends to be kept.
-std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route, const Phase& phase) {
-    std::vector<double> starts{phase.from};
+/// Tells the starts of a phase at which a window begins or ends to be kept.
+template <class Action>
+void eachDecisiveStart(const Clock& clock, const TimedRoute& route, const Phase& phase,
+                       const Action& action) {
+    action(phase.from);
     const auto consider = [&](double start) {
-        if (start > phase.from && start <= phase.until) starts.push_back(start);
+        if (start > phase.from && start <= phase.until) action(start);
     };
-    consider(phase.until < never ? phase.until : phase.from);
+    if (phase.until < never) consider(phase.until);
     consider(clock.latestReturn - phase.arrivals.back());
     for (std::size_t i = 0; i < route.open.size(); ++i) {
         for (const Window& window : route.open[i]->windows()) {
@@ -197,7 +218,6 @@ std::vector<double> decisiveStartsOf(const Clock& clock, const TimedRoute& route
             consider(window.end - phase.arrivals[i]);
         }
     }
-    return starts;
 }
 
 /// Minutes from a clock to the nearest time at which a stop is open.
@@ -208,16 +228,16 @@ double minutesOutside(const OpeningHours& open, double clock) {
     return open.neverOpen() ? 0 : least;
 }
 
-/// The times that a start misses.
+/// The times that a start misses; not all of them where they are more than `most`.
 Misses missesAt(const Clock& clock, const TimedRoute& route, const Phase& phase, double start,
-                double maxMinutes) {
+                double maxMinutes, int most) {
     Misses misses;
     const auto miss = [&misses](double minutes) {
         if (minutes <= leastExcess) return;
         ++misses.count;
         misses.excess += minutes / router::minutesPerHour;
     };
-    for (std::size_t i = 0; i < route.open.size(); ++i)
+    for (std::size_t i = 0; i < route.open.size() && misses.count <= most; ++i)
         miss(minutesOutside(*route.open[i], start + phase.arrivals[i]));
     miss(start + phase.arrivals.back() - clock.latestReturn);
     miss(phase.arrivals.back() - maxMinutes);
@@ -252,29 +272,26 @@ Timing bestTiming(const Clock& clock, const TimedRoute& route) {
 }
 
 Timing leastMisses(const Clock& clock, const TimedRoute& route, double maxMinutes, Misses& misses) {
-    std::optional<Timing> best;
-    Phases phases(clock, route);
-    do {
-        const Phase& phase = phases.now();
-        for (const double start : decisiveStartsOf(clock, route, phase)) {
-            const Misses now = missesAt(clock, route, phase, start, maxMinutes);
-            if (best && (now.count > misses.count ||
-                         (now.count == misses.count && now.excess >= misses.excess - leastExcess)))
-                continue;
+    Timing best;
+    misses.count = std::numeric_limits<int>::max();
+    eachPhase(clock, route, [&](const Phase& phase) {
+        eachDecisiveStart(clock, route, phase, [&](double start) {
+            const Misses now = missesAt(clock, route, phase, start, maxMinutes, misses.count);
+            if (now.count > misses.count ||
+                (now.count == misses.count && now.excess >= misses.excess - leastExcess))
+                return;
             misses = now;
-            best = Timing{.start = start, .latestStart = start, .breakMinutes = phase.breakMinutes};
-        }
-    } while (phases.now().from <= clock.latestReturn && phases.next());
-    return *best;
+            best = {.start = start, .latestStart = start, .breakMinutes = phase.breakMinutes};
+        });
+    });
+    return best;
 }
 
 std::vector<double> decisiveStarts(const Clock& clock, const TimedRoute& route) {
     std::vector<double> starts;
-    Phases phases(clock, route);
-    do {
-        const std::vector<double> ofPhase = decisiveStartsOf(clock, route, phases.now());
-        starts.insert(starts.end(), ofPhase.begin(), ofPhase.end());
-    } while (phases.now().from <= clock.latestReturn && phases.next());
+    eachPhase(clock, route, [&](const Phase& phase) {
+        eachDecisiveStart(clock, route, phase, [&](double start) { starts.push_back(start); });
+    });
     std::sort(starts.begin(), starts.end());
     starts.erase(std::unique(starts.begin(), starts.end()), starts.end());
     return starts;

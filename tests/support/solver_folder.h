@@ -1,14 +1,12 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
-#include <sys/wait.h>
 #include <utility>
 
+#include "tests/support/solver_processes.h"
 #include "tests/support/temporary_folder.h"
 
 namespace vantore::tests {
@@ -25,30 +23,30 @@ class SolverFolder {
     }
 
     /// The bytes of a file, none of one that isn't there.
-    std::string contents(std::string_view name) const {
-        std::ifstream stream(file(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    std::string contents(std::string_view name) const { return tests::contents(file(name)); }
 
     /// Runs the program to its end; the exit status, -1 after a signal.
-    int run() const {
-        return runCommand("VANTORE_IO='" + folder_.path().string() + "/' '" + program_.string() + "'");
-    }
+    int run() { return take(runSolver(program_, folder_.path())); }
 
     /// Runs a command of the shell in the folder.
-    int runCommand(const std::string& command) const {
-        const int status = std::system(
-            ("cd '" + folder_.path().string() + "' && " + command + " >printed 2>complained").c_str());
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    int runCommand(const std::string& command) {
+        const int status = runIn(folder_.path(), command + " >printed 2>complained");
+        return take({status, contents("printed"), contents("complained")});
     }
 
     /// What the last run wrote to standard output and to standard error.
-    std::string printed() const { return contents("printed"); }
-    std::string complained() const { return contents("complained"); }
+    const std::string& printed() const { return last_.printed; }
+    const std::string& complained() const { return last_.complained; }
 
   private:
+    int take(SolverRun run) {
+        last_ = std::move(run);
+        return last_.status;
+    }
+
     std::filesystem::path program_;
     TemporaryFolder folder_;
+    SolverRun last_;
 };
 
 } // namespace vantore::tests

@@ -1,19 +1,12 @@
 #include "tests/support/solver_processes.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sys/wait.h>
 
 namespace vantore::tests {
-
-namespace {
-
-std::string contents(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-} // namespace
 
 std::vector<pid_t> solverProcesses(const std::filesystem::path& ioFolder, const std::string& program) {
     std::vector<pid_t> found;
@@ -27,6 +20,26 @@ std::vector<pid_t> solverProcesses(const std::filesystem::path& ioFolder, const 
     }
     std::sort(found.begin(), found.end());
     return found;
+}
+
+SolverRun runSolver(const std::filesystem::path& program, const std::filesystem::path& ioFolder,
+                    const std::string& before) {
+    SolverRun run;
+    run.status = runIn(ioFolder, before + "VANTORE_IO='" + ioFolder.string() + "/' '" + program.string() +
+                                     "' >printed 2>complained");
+    run.printed = contents(ioFolder / "printed");
+    run.complained = contents(ioFolder / "complained");
+    return run;
+}
+
+int runIn(const std::filesystem::path& folder, const std::string& command) {
+    const int status = std::system(("cd '" + folder.string() + "' && " + command).c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string contents(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 } // namespace vantore::tests

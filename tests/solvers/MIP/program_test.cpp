@@ -22,20 +22,13 @@ namespace {
 namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 using Clock = std::chrono::steady_clock;
+using vantore::tests::contents;
+using vantore::tests::runIn;
+using vantore::tests::runSolver;
+using vantore::tests::SolverRun;
 using vantore::tests::TemporaryFolder;
 
 const fs::path program = MIP_PROGRAM;
-
-/// Runs a command of the shell in a folder; the exit status.
-int run(const fs::path& folder, const std::string& command) {
-    const int status = std::system(("cd '" + folder.string() + "' && " + command).c_str());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// A folder with a TEMP.DAT, and MIP.EXE run on it.
 class Program : public testing::Test {
@@ -46,11 +39,10 @@ class Program : public testing::Test {
 
     /// The exit status; what the program prints is in `printed` and `complained`.
     int solve() {
-        const int status = run(folder_.path(), "VANTORE_IO='" + folder_.path().string() + "/' '" +
-                                                   program.string() + "' >printed 2>complained");
-        printed_ = contents(folder_.path() / "printed");
-        complained_ = contents(folder_.path() / "complained");
-        return status;
+        const SolverRun run = runSolver(program, folder_.path());
+        printed_ = run.printed;
+        complained_ = run.complained;
+        return run.status;
     }
 
     Lines output() const { return readLines(folder_.path() / "OUTPUT.Dat"); }
@@ -103,18 +95,19 @@ TEST_F(Program, TakesTheFolderFromTheDriverFileBesideItself) {
     fs::create_directory(folder_.path() / "data");
     write({folder_.path().string() + "/data/", " 1024          768 ", " 1 "}, "VANTORE.DRV");
     writeLines(folder_.path() / "data" / "TEMP.DAT", crates);
-    EXPECT_EQ(run(folder_.path(), "env -u VANTORE_IO ./MIP.EXE"), 0);
+    EXPECT_EQ(runIn(folder_.path(), "env -u VANTORE_IO ./MIP.EXE"), 0);
     EXPECT_EQ(readLines(folder_.path() / "data" / "OUTPUT.Dat").front(), "STATUS: OPTIMAL");
 }
 
 TEST_F(Program, FailsWithoutAnyFolder) {
     fs::copy_file(program, folder_.path() / "MIP.EXE");
-    EXPECT_EQ(run(folder_.path(), "env -u VANTORE_IO ./MIP.EXE 2>complained"), 1);
+    EXPECT_EQ(runIn(folder_.path(), "env -u VANTORE_IO ./MIP.EXE 2>complained"), 1);
     EXPECT_EQ(contents(folder_.path() / "complained"), "MIP.EXE: File not found\n");
 }
 
 TEST_F(Program, FailsWhereItCannotWrite) {
-    EXPECT_EQ(run(folder_.path(), "VANTORE_IO=/nowhere/at/all/ '" + program.string() + "' 2>complained"), 1);
+    EXPECT_EQ(runIn(folder_.path(), "VANTORE_IO=/nowhere/at/all/ '" + program.string() + "' 2>complained"),
+              1);
     EXPECT_EQ(contents(folder_.path() / "complained"), "MIP.EXE: Path not found\n");
     fs::create_directory(folder_.path() / "OUTPUT.Dat");
     write(crates);
@@ -216,7 +209,7 @@ TEST_F(Program, TakesALongerProblemThanTheWindowHas) {
 
 TEST_F(Program, FailsWhereTheFolderMayNotBeWritten) {
     // a folder where not even root may make a file
-    EXPECT_EQ(run(folder_.path(), "VANTORE_IO=/sys/ '" + program.string() + "' 2>complained"), 1);
+    EXPECT_EQ(runIn(folder_.path(), "VANTORE_IO=/sys/ '" + program.string() + "' 2>complained"), 1);
     EXPECT_EQ(contents(folder_.path() / "complained"), "MIP.EXE: Permission denied\n");
 }
 
@@ -227,8 +220,8 @@ TEST_F(Program, FailsOnAFullDiskAndLeavesNoHalfReport) {
     EXPECT_EQ(complained_, "MIP.EXE: Disk full\n");
     fs::remove(folder_.path() / "OUTPUT.Dat");
     // The disk takes what is written beforehand, and half the report.
-    EXPECT_EQ(run(folder_.path(), "ulimit -f 1; trap '' XFSZ; VANTORE_IO='" + folder_.path().string() +
-                                      "/' '" + program.string() + "' 2>complained"),
+    EXPECT_EQ(runIn(folder_.path(), "ulimit -f 1; trap '' XFSZ; VANTORE_IO='" + folder_.path().string() +
+                                        "/' '" + program.string() + "' 2>complained"),
               1);
     EXPECT_EQ(contents(folder_.path() / "complained"), "MIP.EXE: Disk full\n");
     EXPECT_FALSE(fs::exists(folder_.path() / "OUTPUT.Dat"));
@@ -310,7 +303,7 @@ TEST_F(Program, StopsOnCtrlCThoughItsStarterIgnoresIt) {
     const std::string command = "VANTORE_IO='" + folder_.path().string() +
                                 "/' sh -c 'trap \"\" INT; exec \"" + program.string() +
                                 "\"' & sleep 1; kill -INT $!; wait $!";
-    EXPECT_EQ(run(folder_.path(), command), 0);
+    EXPECT_EQ(runIn(folder_.path(), command), 0);
     EXPECT_EQ(output().at(0), "STATUS: STOPPED");
 }
 

@@ -52,15 +52,24 @@ class Enumeration {
         }
     }
 
+    BestOfAll bestOf(int row, const std::vector<int>& stops) {
+        clearSets(1);
+        for (const double start : starts(stops)) tryRoute(0, stops, start);
+        return routes_[0][std::size_t(row)];
+    }
+
     BestOfAll best() {
         const int all = (1 << n_) - 1;
-        routes_.assign(static_cast<std::size_t>(all + 1),
-                       std::vector<BestOfAll>(std::size_t(rows_ + 1), none));
+        clearSets(std::size_t(all) + 1);
         for (int set = 1; set <= all; ++set) tryOrders(set);
         return rest(all, std::vector<int>(static_cast<std::size_t>(rows_ + 1)));
     }
 
   private:
+    void clearSets(std::size_t count) {
+        routes_.assign(count, std::vector<BestOfAll>(std::size_t(rows_ + 1), none));
+    }
+
     void tryOrders(int set) {
         std::vector<int> order;
         for (int i = 0; i < n_; ++i)
@@ -230,6 +239,10 @@ class Enumeration {
 
 BestOfAll enumerated(const Problem& problem) {
     return Enumeration(problem).best();
+}
+
+BestOfAll enumeratedRoute(const Problem& problem, int row, const std::vector<int>& stops) {
+    return Enumeration(problem).bestOf(row, stops);
 }
 
 } // namespace vantore::optmzr::tests

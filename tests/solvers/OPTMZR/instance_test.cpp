@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "solvers/OPTMZR/instance.h"
 #include "solvers/OPTMZR/plan_builder.h"
 
@@ -48,6 +50,52 @@ TEST(Instance, HasNoUnits) {
     EXPECT_NEAR(instance.fleet(0).costPerOvertimeMinute, .3 / 60, 1E-12);
     EXPECT_NEAR(instance.fleet(0).fixedCost, 40 / 60.0, 1E-12);
     EXPECT_EQ(instance.fleet(0).capacity.weight, .5);
+}
+
+TEST(Instance, KeepsTheProblemsUnitWhereThereIsNothingToMeasureBy) {
+    Problem problem;
+    problem.vehicles.add(Vehicle{"Van", 0, 1, 0, 0, 7, 0, 3, 0, 0});
+    Stop stop;
+    stop.type = router::delivery;
+    stop.weight = 5;
+    stop.cube = 2;
+    problem.stops.add(stop);
+    problem.distances.add({0, "", 1, "", 0});
+    problem.maxDistance = 9;
+    const Instance instance = instanceOf(problem);
+    EXPECT_EQ(instance.customer(1).delivered.weight, 5);
+    EXPECT_EQ(instance.customer(1).delivered.cube, 2);
+    EXPECT_EQ(instance.fleet(0).fixedCost, 10);
+    EXPECT_EQ(instance.maxDistance, 9);
+    EXPECT_EQ(instance.customer(1).place.x, 0);
+    EXPECT_EQ(instance.largestLoad, 5);
+}
+
+TEST(Instance, CutsOffWhatIsBeyondAllBounds) {
+    Problem problem = twoStops();
+    problem.maxDistance = 1E+300;
+    problem.maxTime = 1E+300;
+    problem.defaultSpeed = 1E-300;
+    const Instance instance = instanceOf(problem);
+    EXPECT_EQ(instance.maxDistance, 1E+06);
+    EXPECT_EQ(instance.maxMinutes, 1E+07);
+    EXPECT_EQ(instance.minutes(0, 1), 1E+07);
+    problem.defaultSpeed = 0;
+    EXPECT_EQ(instanceOf(problem).minutes(1, 2), 1E+07);
+}
+
+TEST(Instance, MeasuresPlacesFromTheDepotByTheGridsScale) {
+    Problem problem = twoStops();
+    problem.depotX = 20;
+    problem.depotY = -15;
+    problem.horizontalScale = 1;
+    problem.verticalScale = 2;
+    const Instance instance = instanceOf(problem);
+    // stops at 10 and 20 to the right and 30 above; the second is the farther one
+    const double farthest = std::sqrt(20 * 20 + 30 * 30);
+    EXPECT_NEAR(instance.customer(1).place.x, 10 / farthest, 1E-09);
+    EXPECT_NEAR(instance.customer(2).place.x, 20 / farthest, 1E-09);
+    EXPECT_NEAR(instance.customer(2).place.y, 30 / farthest, 1E-09);
 }
 
 TEST(Instance, PutsRowsTogetherThatDifferInNothing) {

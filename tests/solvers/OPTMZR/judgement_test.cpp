@@ -2,6 +2,8 @@
 
 #include "solvers/OPTMZR/judgement.h"
 #include "solvers/OPTMZR/plan_builder.h"
+#include "tests/routing/ROUTER/random_problems.h"
+#include "tests/solvers/OPTMZR/enumeration.h"
 #include "tests/solvers/OPTMZR/found.h"
 
 namespace vantore::optmzr::tests {
@@ -85,6 +87,22 @@ TEST_F(ThreeTowns, WeighWhatIsOnBoardOnTheWay) {
     expect(judgement({1, 3}, 2), 1, .3);             // 130 from the start
 }
 
+TEST_F(ThreeTowns, BearLoadsThatExceedACapacityByRoundingAlone) {
+    stops_.clear();
+    add(10, 1000.1, router::pickup);
+    add(20, 1000.2, router::pickup); // together 2000.3000000000002
+    edit(1, 0, 9999);
+    router::Vehicle vehicle = problem_.vehicles(1);
+    vehicle.weightCapacity = 2000.3;
+    vehicle.cubeCapacity = 2001;
+    problem_.vehicles = {};
+    problem_.vehicles.add(vehicle);
+    expect(judgement({1, 2}), 0, 0);
+    vehicle.weightCapacity = 2000.3 - 1E-09;
+    problem_.vehicles.add(vehicle);
+    EXPECT_EQ(judgement({1, 2}, 2).violations, 1);
+}
+
 TEST_F(ThreeTowns, AllowPickupsOnlyWhenLittleIsLeftToDeliver) {
     problem_.pickupPercent = 25;
     expect(judgement({1, 2, 3}), 0, 0); // 30 of 130 are left
@@ -122,6 +140,18 @@ TEST_F(ThreeTowns, CountTheVehiclesThatThereAreNot) {
         judged(problem, router::Travel(problem), oneRouteAStop(problem, router::Travel(problem)));
     expect(judgement, 2, 2);
     EXPECT_EQ(judgement.cost, 140);
+}
+
+TEST_F(ThreeTowns, HaveNoVehicleOfATypeWithoutAny) {
+    router::Vehicle vehicle = problem_.vehicles(1);
+    problem_.vehicles = {};
+    for (const double number : {0.0, -3.0}) {
+        vehicle.number = number;
+        problem_.vehicles.add(vehicle);
+    }
+    router::Plan plan = oneRouteAStop(problem_, router::Travel(problem_));
+    plan.routes(2).vehicle = 2;
+    expect(judged(problem_, router::Travel(problem_), plan), 3, 3);
 }
 
 TEST_F(ThreeTowns, AreLeftForAtTheFirstWholeMinuteThatKeepsTheWindows) {
@@ -176,6 +206,27 @@ TEST_F(ThreeTowns, AreAllVisitedByAWholePlan) {
     EXPECT_TRUE(isWhole(problem_, withRoute(1, 2, {1})));
     plan.routeCount = 2;
     EXPECT_FALSE(isWhole(problem_, plan));
+}
+
+TEST(BestStart, IsAsGoodAsAnyStartOfARandomRoute) {
+    router::tests::RandomProblems problems(4711);
+    int kept = 0;
+    for (int trial = 0; trial < 1000; ++trial) {
+        const Problem problem = problems.next(problems.from(1, 8));
+        const router::Travel travel(problem);
+        PlannedRoute route = problems.route(problem);
+        route.start = bestStart(problem, travel, route);
+        const Judgement judgement = judged(problem, travel, route);
+        const BestOfAll best = enumeratedRoute(problem, route.vehicle, route.stops);
+        ASSERT_EQ(judgement.violations, best.violations) << "problem " << trial;
+        ASSERT_NEAR(judgement.excess, best.excess, 1E-07) << "problem " << trial;
+        ASSERT_LE(judgement.cost, best.cost * (1 + 1E-07)) << "problem " << trial;
+        if (best.violations > 0) continue;
+        ++kept;
+        ASSERT_NEAR(judgement.cost, best.cost, 1E-07 * best.cost) << "problem " << trial;
+    }
+    EXPECT_GT(kept, 100);
+    EXPECT_LT(kept, 900);
 }
 
 } // namespace

@@ -1,12 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <fstream>
-#include <iterator>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
@@ -29,15 +25,13 @@ using Clock = std::chrono::steady_clock;
 using router::Plan;
 using router::Problem;
 using router::tests::RandomProblems;
+using vantore::tests::contents;
 using vantore::tests::damagedForms;
+using vantore::tests::runSolver;
+using vantore::tests::SolverRun;
 using vantore::tests::TemporaryFolder;
 
 const fs::path program = OPTMZR_PROGRAM;
-
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string inputOf(const Problem& problem) {
     ItemWriter writer;
@@ -59,13 +53,10 @@ class OptmzrProgram : public testing::Test {
 
     /// The exit status; what the program says on standard error is in `complained_`.
     int solve(const std::string& before = "") {
-        const std::string folder = folder_.path().string();
-        const int status = std::system((before + "VANTORE_IO='" + folder + "/' '" + program.string() +
-                                        "' >'" + folder + "/printed' 2>'" + folder + "/complained'")
-                                           .c_str());
-        complained_ = contents(folder_.path() / "complained");
-        EXPECT_EQ(contents(folder_.path() / "printed"), "");
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        const SolverRun run = runSolver(program, folder_.path(), before);
+        complained_ = run.complained;
+        EXPECT_EQ(run.printed, "");
+        return run.status;
     }
 
     bool hasPlan() const { return fs::exists(folder_.path() / "ROUTE.DAT"); }

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "solvers/OPTMZR/dice.h"
 #include "solvers/OPTMZR/timing.h"
 
 namespace vantore::optmzr::tests {
@@ -65,6 +67,15 @@ TEST_F(ThreeStops, LeavesSoThatAllWindowsAreKept) {
     clock_.latestReturn = 650;
     EXPECT_EQ(timing().latestStart, 490);
     EXPECT_EQ(timing().excess(), 0);
+}
+
+TEST_F(ThreeStops, PaysNoHeedToAStopThatNeverOpens) {
+    open({openAt(0, all), openAt(500, 520), openAt(5, 4, 3, 2)});
+    EXPECT_EQ(timing().start, 430);
+    EXPECT_EQ(timing().latestStart, 450);
+    EXPECT_EQ(timing().excess(), 0);
+    clock_.breaks = {{20, 3000}};
+    EXPECT_EQ(timing().latestStart, 450);
 }
 
 TEST_F(ThreeStops, MeasuresWhatItCannotKeep) {
@@ -151,6 +162,153 @@ TEST_F(ThreeStops, NamesTheStartsThatDecide) {
     const std::vector<double> starts = decisiveStarts(clock_, route());
     for (const double start : {400.0, 470.0, 480.0, 1840.0})
         EXPECT_TRUE(std::find(starts.begin(), starts.end(), start) != starts.end()) << start;
+}
+
+TEST_F(ThreeStops, ListTheStartsOfEachPhaseOnceAndInTheirOrder) {
+    clock_.latestReturn = 700;
+    clock_.breaks = {{20, 520}};
+    open({openAt(0, all), openAt(0, all), openAt(0, all)});
+    const std::vector<double> starts = decisiveStarts(clock_, route());
+    // the break is due on the way to the third stop, to the second, to the first, and from the start on
+    const double expected[] = {400, 450, 490, 520};
+    for (const double start : expected)
+        EXPECT_TRUE(std::any_of(starts.begin(), starts.end(), [&](double s) {
+            return std::abs(s - start) < 1E-06;
+        })) << start;
+    EXPECT_TRUE(std::is_sorted(starts.begin(), starts.end()));
+    EXPECT_TRUE(std::adjacent_find(starts.begin(), starts.end()) == starts.end());
+}
+
+/// A random route with its windows and breaks, all at whole minutes, so that halves of minutes and what is
+/// just before or past them are all the starts that count.
+class RandomDay {
+  public:
+    explicit RandomDay(Dice& dice) {
+        clock_.earliestStart = dice.below(60);
+        clock_.latestReturn = 150 + dice.below(200);
+        for (int k = dice.below(4); k > 0; --k)
+            clock_.breaks.push_back({double(1 + dice.below(20)), double(dice.below(250))});
+        double after = 0;
+        for (int stops = 1 + dice.below(4); stops > 0; --stops) {
+            arrivals_.push_back(after += 1 + dice.below(40));
+            const double begin1 = dice.below(150);
+            const double end1 = begin1 + dice.below(60) - 5;
+            const double begin2 = dice.below(250);
+            hours_.emplace_back(openAt(begin1, end1, begin2, begin2 + dice.below(60) - 20));
+        }
+        arrivals_.push_back(after + 1 + dice.below(40));
+        for (const OpeningHours& hours : hours_) open_.push_back(&hours);
+    }
+
+    const Clock& clock() const { return clock_; }
+    TimedRoute route() const { return {arrivals_, open_}; }
+
+    /// What a start makes of the route: as `Timing`, and the times missed one by one.
+    Timing at(double start, double maxMinutes, Misses& misses) const {
+        Timing timing{.start = start, .latestStart = start};
+        std::vector<bool> isTaken(clock_.breaks.size());
+        misses = {};
+        double now = start;
+        for (std::size_t i = 0; i < arrivals_.size(); ++i) {
+            now = start + arrivals_[i] + timing.breakMinutes;
+            for (std::size_t k = 0; k < isTaken.size(); ++k) {
+                const double due = clock_.breaks[k].beginsAfter;
+                if (isTaken[k] || (i == 0 ? now < due : now <= due)) continue;
+                isTaken[k] = true;
+                timing.breakMinutes += clock_.breaks[k].duration;
+                now += clock_.breaks[k].duration;
+            }
+            if (i < hours_.size()) visit(hours_[i], now, timing, misses);
+        }
+        timing.tooLate = std::max(timing.tooLate, now - clock_.latestReturn);
+        miss(misses, now - clock_.latestReturn);
+        miss(misses, now - start - maxMinutes);
+        return timing;
+    }
+
+    template <class Action>
+    void eachStart(const Action& action) const {
+        constexpr double little = 1E-07;
+        for (double start = clock_.earliestStart; start <= 300; start += .5)
+            for (const double shift : {-little, 0.0, little})
+                if (start + shift >= clock_.earliestStart) action(start + shift);
+    }
+
+  private:
+    static void miss(Misses& misses, double minutes) {
+        if (minutes < 1E-05) return;
+        ++misses.count;
+        misses.excess += minutes / 60;
+    }
+
+    static void visit(const OpeningHours& hours, double now, Timing& timing, Misses& misses) {
+        if (hours.neverOpen()) return;
+        double early = 1E+09, late = 1E+09;
+        for (const Window& window : hours.windows()) {
+            if (now <= window.end) early = std::min(early, std::max(0.0, window.begin - now));
+            if (now >= window.begin) late = std::min(late, std::max(0.0, now - window.end));
+        }
+        miss(misses, std::min(early, late));
+        if (early <= late)
+            timing.tooEarly = std::max(timing.tooEarly, early);
+        else
+            timing.tooLate = std::max(timing.tooLate, late);
+    }
+
+    Clock clock_;
+    std::vector<double> arrivals_;
+    std::vector<OpeningHours> hours_;
+    std::vector<const OpeningHours*> open_;
+};
+
+TEST(BestTiming, IsAsGoodAsAnyStart) {
+    Dice dice(12);
+    int kept = 0;
+    for (int trial = 0; trial < 400; ++trial) {
+        const RandomDay day(dice);
+        const Timing timing = bestTiming(day.clock(), day.route());
+        Misses misses;
+        double least = 1E+09, shortest = 1E+09;
+        day.eachStart([&](double start) {
+            const Timing at = day.at(start, 1E+06, misses);
+            if (at.excess() < least - 1E-05) shortest = 1E+09;
+            if (at.excess() < least + 1E-05) shortest = std::min(shortest, at.breakMinutes);
+            least = std::min(least, at.excess());
+        });
+        ASSERT_NEAR(timing.excess(), least, 1E-05) << "day " << trial;
+        for (const double start :
+             {timing.start, (timing.start + timing.latestStart) / 2, timing.latestStart}) {
+            const double before = std::max(start - 1E-07, day.clock().earliestStart);
+            const double excess =
+                std::min(day.at(start, 1E+06, misses).excess(), day.at(before, 1E+06, misses).excess());
+            ASSERT_NEAR(excess, least, 1E-05) << "day " << trial << ", start " << start;
+        }
+        if (least > 0) continue;
+        ++kept;
+        ASSERT_EQ(timing.breakMinutes, shortest) << "day " << trial;
+    }
+    EXPECT_GT(kept, 80);
+    EXPECT_LT(kept, 320);
+}
+
+TEST(LeastMisses, AreThoseOfTheBestStart) {
+    Dice dice(13);
+    for (int trial = 0; trial < 400; ++trial) {
+        const RandomDay day(dice);
+        const double maxMinutes = 40 + dice.below(100);
+        Misses found, least{1000, 0}, at;
+        const Timing timing = leastMisses(day.clock(), day.route(), maxMinutes, found);
+        day.eachStart([&](double start) {
+            day.at(start, maxMinutes, at);
+            if (at.count < least.count || (at.count == least.count && at.excess < least.excess)) least = at;
+        });
+        ASSERT_EQ(found.count, least.count) << "day " << trial;
+        ASSERT_NEAR(found.excess, least.excess, 1E-05) << "day " << trial;
+        day.at(timing.start + 1E-08, maxMinutes, at);
+        Misses before;
+        day.at(timing.start, maxMinutes, before);
+        ASSERT_EQ(std::min(at.count, before.count), least.count) << "day " << trial;
+    }
 }
 
 } // namespace

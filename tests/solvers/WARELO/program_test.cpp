@@ -39,7 +39,7 @@ class WareloProgram : public testing::Test {
     Lines report() const { return readLines(folder.file("OUTPUT.DAT")); }
 
     /// The program gives a whole report, whatever these two files hold.
-    void expectAReport() const {
+    void expectAReport() {
         ASSERT_EQ(folder.run(), 0) << folder.complained();
         ASSERT_GE(report().size(), 3U);
         EXPECT_EQ(report().front(), title);
