@@ -244,5 +244,18 @@ TEST(DataGrid, KeepsItsCurrentCellInside) {
     EXPECT_THROW(grid.setCurrent(3, 0), RuntimeError);
 }
 
+TEST(DataGrid, RemovesTheRowsUnderItsHeadingOnly) {
+    DataGrid grid("Grid");
+    grid.setRows(4);
+    grid.setCell(2, 1, "the second");
+    EXPECT_THROW(grid.removeItem(0), RuntimeError);
+    EXPECT_THROW(grid.removeItem(4), RuntimeError);
+    grid.removeItem(1);
+    EXPECT_EQ(grid.rows(), 3);
+    EXPECT_EQ(grid.cell(1, 1), "the second");
+    grid.removeItem(2);
+    EXPECT_EQ(grid.rows(), 2);
+}
+
 } // namespace
 } // namespace vantore

@@ -2,7 +2,9 @@
 
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
+#include "script/script_platform.h"
 #include "tests/support/module_session.h"
 
 namespace vantore::tests {
@@ -123,6 +125,16 @@ TEST(Launcher, NamesTheManualInItsHelp) {
     EXPECT_TRUE(told.starts_with("MessageBx \"Information\": "));
     for (const char* word : {"Vantore.Doc", "Vantore.Pdf", "README"})
         EXPECT_NE(told.find(word), std::string::npos) << word;
+}
+
+TEST(Launcher, OffersNoButtonOfAModuleThatTheSuiteLacks) {
+    std::ostringstream transcript;
+    ScriptPlatform user(transcript, 800, 600);
+    Platform parts = user.parts();
+    Suite suite(parts, {});
+    const Launcher launcher(suite);
+    ASSERT_NE(launcher.moduleButton("COG"), nullptr);
+    EXPECT_FALSE(launcher.moduleButton("COG")->enabled());
 }
 
 } // namespace
