@@ -144,5 +144,22 @@ TEST_F(DesktopPlatformTest, TheBusyPointerComesAndGoes) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(DesktopPlatformTest, ThePointerIsNotBusyWhileAQuestionWaits) {
+    show();
+    for (const bool busy : {true, false}) {
+        platform.setBusyPointer(busy);
+        YNBx question({}, "Another computational cycle?", "Question", 8);
+        question.layOut(platform, "Center");
+        bool busyInQuestion = true;
+        QTimer::singleShot(50, [&] {
+            busyInQuestion = QGuiApplication::overrideCursor() != nullptr;
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Y, Qt::AltModifier);
+        });
+        platform.showModal(question);
+        EXPECT_FALSE(busyInQuestion);
+        EXPECT_EQ(QGuiApplication::overrideCursor() != nullptr, busy) << "as before the question";
+    }
+}
+
 } // namespace
 } // namespace vantore::tests

@@ -172,6 +172,12 @@ TEST(Drawing, AWindowIsDrawnWithItsLabelsWhereTheyStandToEachOther) {
         << "under the highest label";
 }
 
+TEST(Drawing, NothingOfAWindowsDrawingLeavesItsPlace) {
+    SampleForm form; // its surface is 300 by 200 units in a window of 640 by 480
+    form.surface.box(0, 0, 2000, 2000, 12, true);
+    EXPECT_NEAR(pixelsOf(imageOf(*Drawing::ofWindow(form), 1), QColor(255, 0, 0)), 300 * 200, 1000);
+}
+
 TEST(Drawing, TicksAreOneTwoOrFiveTimesAPowerOfTen) {
     EXPECT_DOUBLE_EQ(roundTick(0, 10, 10), 1);
     EXPECT_DOUBLE_EQ(roundTick(1, 24, 10), 5);

@@ -49,6 +49,20 @@ TEST_F(DrawingViewTest, ALargerWindowShowsASurfaceLarger) {
     EXPECT_EQ(pixel(110, 110), QColor(Qt::white)) << "the box begins at a third of the paper";
 }
 
+TEST_F(DrawingViewTest, ASurfaceIsShownWholeInAWindowOfAnotherShape) {
+    form.surface.box(0, 190, 299, 199, 12, true);
+    open.window.resize(1280, 480);
+    bool seen = false;
+    for (int y = 0; y < paper.height(); ++y) seen = seen || pixel(20, y) == QColor(255, 0, 0);
+    EXPECT_TRUE(seen) << "what stands at its foot";
+    form.surface.clear();
+    form.surface.box(290, 0, 299, 199, 12, true);
+    open.window.resize(640, 960);
+    seen = false;
+    for (int x = 0; x < paper.width(); ++x) seen = seen || pixel(x, 20) == QColor(255, 0, 0);
+    EXPECT_TRUE(seen) << "what stands at its right";
+}
+
 TEST_F(DrawingViewTest, TheWheelZoomsByNotches) {
     std::string told;
     form.surface.onZoom = [&](int steps) { told += std::to_string(steps) + " "; };

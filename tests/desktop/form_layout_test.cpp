@@ -22,6 +22,13 @@ TEST(FormLayout, ControlsStandWhereTheDesignPutsThem) {
     EXPECT_EQ(FormLayout(form, {640, 480}).place(button), QRect(8, 430, 101, 21));
 }
 
+TEST(FormLayout, ADesignIsLargeEnoughForControlsThatReachBeyondTheForm) {
+    LayoutForm form;
+    EXPECT_EQ(designSize(form), QSize(640, 480));
+    form.with<Button>("cmdSolve", {9000, 7000, 1500, 500}); // 300 twips below, 900 at the right
+    EXPECT_EQ(designSize(form), QSize(640 + 60 + 8, 480 + 20 + 8)) << "8 pixels beside it";
+}
+
 TEST(FormLayout, AGridTakesTheExtraRoomAndTheButtonsUnderItMoveDown) {
     LayoutForm form;
     const auto& box = form.with<TextBox>("txtLabel", {1860, 120, 3000, 315});
