@@ -72,6 +72,18 @@ TEST(Question, HasNoAnswerWhenItIsClosedByItsTitleBar) {
     EXPECT_TRUE(yes.closed);
 }
 
+TEST(Question, KeepsBothButtonsBelowALongPrompt) {
+    const PlainDisplay display;
+    YNBx shortBox({1, 1}, "Short?", "Title", 8);
+    shortBox.layOut(display, "Center");
+    YNBx box({1, 1}, std::string(350, 'x'), "Title", 8);
+    box.layOut(display, "Center");
+    const double down = box.height - shortBox.height;
+    EXPECT_GT(down, 500);
+    EXPECT_EQ(box.cmdYes.design.top, shortBox.cmdYes.design.top + down);
+    EXPECT_EQ(box.cmdNo.design.top, shortBox.cmdNo.design.top + down);
+}
+
 TEST(Input, FollowsTheScaleFactors) {
     const PlainDisplay display;
     InptBx box({2, 1.5}, "Value?", "Title", 16, "Enter value");
@@ -79,6 +91,8 @@ TEST(Input, FollowsTheScaleFactors) {
     EXPECT_EQ(box.width, 8600);
     EXPECT_EQ(box.height, 2075 + 150);
     EXPECT_EQ(box.cmdOK.design.left, 6000 + 400);
+    EXPECT_EQ(box.cmdOK.design.height, 335 * 1.5);
+    EXPECT_EQ(box.cmdCancel.design.height, 335 * 1.5);
     EXPECT_EQ(box.cmdCancel.design.top, 840);
     EXPECT_EQ(box.txtInput.text(), "Enter value");
 }

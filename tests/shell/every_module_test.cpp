@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "shell/base/text.h"
+#include "shell/base/text_file.h"
 #include "suite/module_list.h"
 #include "tests/support/form_faults.h"
 #include "tests/support/module_session.h"
@@ -91,6 +92,17 @@ std::vector<std::string> captions() {
     std::vector<std::string> result;
     for (const ModuleEntry& entry : moduleList()) result.push_back(entry.caption);
     return result;
+}
+
+TEST(ModuleViews, TakeTheFocusToWhereTheUserGoesOn) {
+    ModuleSession session;
+    session.writeFile("COG01.dat", readTextFile(VANTORE_SOURCE_FOLDER "/install/COG01.dat"));
+    session.open("COG", "COG01.dat");
+    EXPECT_EQ(session.module().focus->name, "COGGrid");
+    session.play("answer 1\nanswer No\npress cmdSolve");
+    EXPECT_EQ(session.module().focus->name, "cmdContinue");
+    session.play("press cmdContinue");
+    EXPECT_EQ(session.module().focus->name, "COGGrid");
 }
 
 INSTANTIATE_TEST_SUITE_P(Suite, EveryModule, testing::ValuesIn(captions()),
