@@ -3,7 +3,7 @@
 namespace vantore::cog {
 
 std::string skeleton() {
-    Problem problem = newProblem<Problem>();
+    auto problem = newProblem<Problem>();
     problem.powerFactor = .5;
     ItemWriter writer;
     write(problem, writer);

@@ -167,7 +167,8 @@ bool LocalSearch::accept(int a, const Splice& newA) {
     ++work_;
     const int fleet = route(a).fleet();
     const double present = route(a).value().penalised - leastGain;
-    const RouteSums sums{newA.legs(instance_), route(a).sums()};
+    const LoadSums& loads = route(a).sums(); // as before: the stops are the same
+    const RouteSums sums{newA.legs(instance_), loads};
     if (bound(fleet, newA, sums) >= present) return false;
     const RouteValue value = valueOf(fleet, newA, sums, stopsA_);
     if (value.penalised >= present) return false;
@@ -299,7 +300,7 @@ bool LocalSearch::changeVehicle(int index) {
 bool LocalSearch::exchangeVehicles(int indexA, int indexB) {
     SearchRoute& a = route(indexA);
     SearchRoute& b = route(indexB);
-    work_ += instance_.stepsAStop * (a.size() + b.size());
+    work_ += 1LL * instance_.stepsAStop * (a.size() + b.size());
     const RouteValue valueA = judge_.value(instance_.fleet(b.fleet()), a.sums(), a.stops());
     const RouteValue valueB = judge_.value(instance_.fleet(a.fleet()), b.sums(), b.stops());
     if (valueA.penalised + valueB.penalised >= a.value().penalised + b.value().penalised - leastGain)

@@ -162,6 +162,38 @@ TEST(LocalSearch, NeverMakesAnAllocationDearer) {
     }
 }
 
+/// The cheapest of the allocations in which one customer goes elsewhere or two change places.
+double leastCostNextTo(const Network& network, const Allocation& allocation) {
+    double least = costOf(network, allocation);
+    const auto look = [&](const Allocation& other) { least = std::min(least, costOf(network, other)); };
+    for (std::size_t a = 0; a < allocation.size(); ++a) {
+        Allocation other = allocation;
+        for (std::size_t w = 0; w < network.warehouses.size(); ++w) {
+            other[a] = w;
+            look(other);
+        }
+        for (std::size_t b = 0; b < a; ++b) {
+            other = allocation;
+            std::swap(other[a], other[b]);
+            look(other);
+        }
+    }
+    return least;
+}
+
+TEST(LocalSearch, LeavesNoShiftAndNoSwapThatPays) {
+    std::mt19937 random(17);
+    for (int i = 0; i < 300; ++i) {
+        const Network network =
+            networkOf(tests::randomCase(random, {.plants = 3, .warehouses = 5, .customers = 10}));
+        Allocation start(network.customers.size());
+        for (std::size_t& warehouse : start) warehouse = random() % network.warehouses.size();
+        const Allocation better = improved(network, start);
+        const double cost = costOf(network, better);
+        EXPECT_GE(leastCostNextTo(network, better), cost * (1 - 1E-9)) << "case " << i;
+    }
+}
+
 TEST(LocalSearch, ClosesAWarehouseThatDoesNotPay) {
     Case problem = twoTowns();
     problem.inventoryConstant = 30;
