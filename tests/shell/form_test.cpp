@@ -244,6 +244,29 @@ TEST(DataGrid, KeepsItsCurrentCellInside) {
     EXPECT_THROW(grid.setCurrent(3, 0), RuntimeError);
 }
 
+TEST(DataGrid, TakesNoKeyOnItsHeadings) {
+    SmallForm form;
+    int keys = 0;
+    form.grid.onKey = [&](int) { ++keys; };
+    for (const auto& [row, col] : {std::pair(0, 1), std::pair(1, 0)}) {
+        form.grid.setCurrent(row, col);
+        form.key(form.grid, 'x');
+    }
+    EXPECT_EQ(keys, 0);
+    form.grid.setCurrent(1, 1);
+    form.key(form.grid, 'x');
+    EXPECT_EQ(keys, 1);
+}
+
+TEST(DataGrid, HasColumnsWithinItsWidthOnly) {
+    DataGrid grid("Grid");
+    grid.setCols(3);
+    grid.setColWidth(2, 900);
+    EXPECT_EQ(grid.colWidth(2), 900);
+    EXPECT_THROW(grid.setColWidth(3, 900), RuntimeError);
+    EXPECT_THROW(static_cast<void>(grid.colWidth(3)), RuntimeError);
+}
+
 TEST(DataGrid, RemovesTheRowsUnderItsHeadingOnly) {
     DataGrid grid("Grid");
     grid.setRows(4);

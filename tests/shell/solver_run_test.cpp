@@ -170,8 +170,11 @@ class ImpatientUser : public ScriptPlatform {
     ImpatientUser(std::ostream& out, fs::path ready)
         : ScriptPlatform(out, 800, 600), ready_(std::move(ready)) {}
 
+    void setBusyPointer(bool isBusy) override { busy = isBusy; }
+
     void processEvents() override {
         ScriptPlatform::processEvents();
+        EXPECT_TRUE(busy) << "while the solver runs";
         notes += module->runningNote.substr(0, module->runningNote.find(',')) +
                  module->runningNote.substr(module->runningNote.find(".  ")) + "\n";
         constexpr int patience = 50;
@@ -179,6 +182,7 @@ class ImpatientUser : public ScriptPlatform {
     }
 
     ModuleFrame* module = nullptr;
+    bool busy = false;
     int steps = 0;
     std::string notes;
 
@@ -203,6 +207,7 @@ std::string solveInterrupted(ModuleSession& session, std::string& notes) {
     user.module->press(*user.module->find("cmdSolve"));
     notes = user.notes;
     EXPECT_EQ(user.module->runningNote, "");
+    EXPECT_FALSE(user.busy);
     return transcript.str();
 }
 
