@@ -164,11 +164,12 @@ TEST_F(SolverRunTest, RefusesASecondRunInTheFolder) {
     EXPECT_TRUE(showsReport());
 }
 
-/// A user who presses Ctrl+C as soon as the solver is ready, and again while it doesn't stop.
+/// A user who presses Ctrl+C as soon as the solver is ready and a text has been read in the note, and again
+/// while it doesn't stop.
 class ImpatientUser : public ScriptPlatform {
   public:
-    ImpatientUser(std::ostream& out, fs::path ready)
-        : ScriptPlatform(out, 800, 600), ready_(std::move(ready)) {}
+    ImpatientUser(std::ostream& out, fs::path ready, std::string awaited)
+        : ScriptPlatform(out, 800, 600), ready_(std::move(ready)), awaited_(std::move(awaited)) {}
 
     void setBusyPointer(bool isBusy) override { busy = isBusy; }
 
@@ -178,7 +179,9 @@ class ImpatientUser : public ScriptPlatform {
         notes += module->runningNote.substr(0, module->runningNote.find(',')) +
                  module->runningNote.substr(module->runningNote.find(".  ")) + "\n";
         constexpr int patience = 50;
-        if (fs::exists(ready_) && ++steps % patience == 1) module->interrupt();
+        constexpr std::size_t enough = 100000; // letters of notes, where the text never comes
+        const bool isRead = notes.find(awaited_) != std::string::npos || notes.size() > enough;
+        if (isRead && fs::exists(ready_) && ++steps % patience == 1) module->interrupt();
     }
 
     ModuleFrame* module = nullptr;
@@ -188,12 +191,13 @@ class ImpatientUser : public ScriptPlatform {
 
   private:
     fs::path ready_;
+    std::string awaited_;
 };
 
 /// Presses Solve for a user who interrupts; what the transcript says.
-std::string solveInterrupted(ModuleSession& session, std::string& notes) {
+std::string solveInterrupted(ModuleSession& session, std::string& notes, const std::string& awaited = "") {
     std::ostringstream transcript;
-    ImpatientUser user(transcript, session.ioFolder() / "ready");
+    ImpatientUser user(transcript, session.ioFolder() / "ready", awaited);
     Platform parts = user.parts();
     Suite suite(parts, moduleList());
     suite.ioFolder = textOf(session.ioFolder()) + "/";
@@ -239,8 +243,9 @@ TEST_F(SolverRunTest, ShowsHowFarTheSolverHasCome) {
                "echo 'Best cost so far 12 $' > \"$VANTORE_IO/PROGRESS.DAT\"\n"
                ": > \"$VANTORE_IO/ready\"\nwhile :; do sleep .02; done");
     std::string notes;
-    solveInterrupted(session, notes);
-    EXPECT_NE(notes.find("  Best cost so far 12 $"), std::string::npos) << notes;
+    const std::string progress = "  Best cost so far 12 $";
+    solveInterrupted(session, notes, progress);
+    EXPECT_NE(notes.find(progress), std::string::npos) << notes;
     EXPECT_FALSE(session.fileExists("PROGRESS.DAT"));
 }
 
