@@ -81,7 +81,7 @@ class Splice {
         int first() const { return from < to ? from : to; }
         int last() const { return from < to ? to : from; }
     };
-    void add(Run run) { runs_[count_++] = run; }
+    void add(Run run) { runs_.at(count_++) = run; }
 
     static constexpr std::size_t mostRuns = 5; // that any change takes
 
